@@ -1,0 +1,29 @@
+// The options record: set once by the command line, read by every stage.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace ycc {
+
+struct Options {
+  bool bounds_checks = true;          // /B turns off
+  std::vector<std::string> defines;   // /D names, accumulated
+  int error_limit = 50;               // /E
+  std::string prefix = "zz";          // /F
+  int halfmegs = 2;                   // /H
+  std::string include_dirs;           // /I, then YCINC; ";"-separated
+  int warning_level = 3;              // /L
+  bool memory_locations = true;       // /M turns off
+  std::string output_dir;             // /O
+  bool keep_intermediate = false;     // /P
+  bool timestamps = false;            // /T
+  bool unaligned = false;             // /U
+  int width = 72;                     // /W
+
+  // Debugging options beyond the described ones (words beginning with "--").
+  bool dump_symbols = false;          // --dump-symbols
+  bool dump_tokens = false;           // --dump-tokens
+};
+
+}  // namespace ycc

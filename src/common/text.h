@@ -1,0 +1,29 @@
+// Small text helpers shared by every stage.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ycc {
+
+// printf-style formatting into a std::string; message texts keep their C formats.
+std::string strf(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
+
+// The system's text for an errno value.
+std::string system_error_text(int err);
+
+inline bool ends_with(std::string_view s, std::string_view tail) {
+  return s.size() >= tail.size() && s.substr(s.size() - tail.size()) == tail;
+}
+
+inline bool is_ident_start(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+}
+inline bool is_ident_char(char c) { return is_ident_start(c) || (c >= '0' && c <= '9'); }
+inline bool is_digit(char c) { return c >= '0' && c <= '9'; }
+inline bool is_alpha(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// Reads a whole file; false (with errno set) when it cannot be opened or read.
+bool read_file(const std::string& name, std::string& text, int& err);
+
+}  // namespace ycc

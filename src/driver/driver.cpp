@@ -1,0 +1,128 @@
+#include "driver/driver.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+#include "common/text.h"
+#include "diag/diagnostics.h"
+#include "driver/command_line.h"
+#include "front/compile_pass.h"
+#include "preprocessor/preprocessor.h"
+
+namespace ycc {
+
+namespace {
+
+const char banner[] =
+    "\n YARL C (tm) Compiler Version 1.04\n"
+    " Copyright (c) 2026 the YARL C project\n"
+    "\n";
+
+const char memory_exhausted[] = "\n\n  ** memory is exhausted -- unable to continue **\n\n";
+
+class Driver {
+ public:
+  Driver(std::ostream& out, std::ostream& err) : out_(out), err_(err), diag_(err, options_) {}
+
+  int run(const std::vector<std::string>& args);
+
+ private:
+  void process(const SourceFile& file);
+  int finish();
+
+  std::ostream& out_;
+  std::ostream& err_;
+  Options options_;
+  Diagnostics diag_;
+  CompileSession session_;
+};
+
+int Driver::run(const std::vector<std::string>& args) {
+  out_ << banner;
+  if (args.size() <= 1) {
+    out_ << usage_text;
+    return 1;
+  }
+  std::vector<std::string> words(args.begin() + 1, args.end());
+  std::vector<std::string> sources;
+  if (!read_command_line(words, args[0], options_, sources, diag_)) return finish();
+  if (const char* env = std::getenv("YCINC")) append_include_dirs(options_.include_dirs, env);
+
+  int last_total = 0;
+  for (const std::string& source : sources) {
+    int total = diag_.run_errors + diag_.run_warnings;
+    if (total != last_total) out_ << '\n';
+    last_total = total;
+    out_ << " preprocess '" << source << "'\n";
+    out_.flush();
+    process(name_source(source, options_));
+  }
+  return finish();
+}
+
+void Driver::process(const SourceFile& file) {
+  int errors_before = diag_.run_errors;
+  diag_.pp_errors = 0;
+  PpJob job;
+  job.source_name = file.source_name;
+  job.intermediate_name = file.intermediate_name;
+  job.compile_flag = file.compile_flag;
+  job.output_time = file.output_time;
+
+  int err = 0;
+  bool halted = false;
+  if (!read_file(file.source_name, job.source_text, err)) {
+    diag_.pp_error(strf("unable to open source file '%s' : %s", file.source_name.c_str(),
+                        system_error_text(err).c_str()),
+                   nullptr);
+  } else {
+    try {
+      preprocess(options_, diag_, job);
+    } catch (const PpStop& stop) {
+      if (stop.code == 2) {
+        err_ << " preprocessing of '" << file.source_name << "' halted\n ** too many errors **\n";
+        halted = true;
+      }
+    }
+    if (!halted && diag_.pp_errors == 0 && job.compile_flag == 'y') {
+      out_ << " compile    '" << file.source_name << "'\n";
+      out_.flush();
+      session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
+                                file.source_name);
+    }
+  }
+  if (job.intermediate_written && !options_.keep_intermediate)
+    std::remove(file.intermediate_name.c_str());
+  if (diag_.run_errors > errors_before) std::remove(file.output_name.c_str());
+}
+
+int Driver::finish() {
+  int e = diag_.run_errors, w = diag_.run_warnings;
+  if (e == 0 && w == 0) return 0;
+  out_ << strf("\n totals     %d error%s, %d warning%s\n", e, e == 1 ? "" : "s", w,
+               w == 1 ? "" : "s");
+  return e > 0 ? 1 : 0;
+}
+
+}  // namespace
+
+int run_compiler(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  Driver driver(out, err);
+  try {
+    return driver.run(args);
+  } catch (const MemoryExhausted&) {
+    out.flush();
+    err << memory_exhausted;
+  } catch (const std::bad_alloc&) {
+    out.flush();
+    err << memory_exhausted;
+  } catch (const FatalError& f) {
+    out.flush();
+    err << f.report;
+  }
+  err.flush();
+  return 1;
+}
+
+}  // namespace ycc

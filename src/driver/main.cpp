@@ -1,0 +1,13 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "driver/driver.h"
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  std::vector<std::string> args(argv, argv + argc);
+  int status = ycc::run_compiler(args, std::cout, std::cerr);
+  std::cout.flush();
+  return status;
+}
