@@ -1,0 +1,38 @@
+// The lexer: the whole intermediate file becomes tokens before parsing starts.
+#pragma once
+
+#include <deque>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diag/diagnostics.h"
+#include "front/token.h"
+
+namespace ycc {
+
+// Lines of declarations that came from extern includes: L lies in range i
+// when ranges[i].begin < L < ranges[i + 1].end (see the lexer for the rule).
+struct ExternRange {
+  int begin = 0;
+  int end = 0;
+};
+
+// Every token of one file, up to and including Eof. Token texts point into
+// `texts`, which owns them for the life of the buffer.
+struct TokenBuffer {
+  std::vector<Token> tokens;
+  std::vector<ExternRange> extern_ranges;
+  std::deque<std::string> texts;
+
+  // Whether a line code lies in an extern line range.
+  bool in_extern_range(int line) const;
+};
+
+// Tokenises a whole intermediate file. File names of "#line" lines are
+// entered into `files` (which lives for the run); invalid characters are
+// reported on `err` in the lexer's own form, which is not counted.
+TokenBuffer tokenize(std::string_view text, FileTable& files, std::ostream& err);
+
+}  // namespace ycc
