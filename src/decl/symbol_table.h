@@ -79,6 +79,8 @@ class SymbolTable {
   static std::string stored_name(std::string_view name) {
     return std::string(name.substr(0, std::min(name.size(), name_limit)));
   }
+  // Drops the newest entry, which must not be indexed.
+  void drop_last() { symbols_.pop_back(); }
   // Gives an entry an anonymous name (never matched by lookups).
   void make_anonymous(int sub);
 
