@@ -280,6 +280,8 @@ IfResult evaluate_if(std::string_view text) {
     char c = text[i];
     if (is_digit(c)) {
       i = skip_number(text, i);
+    } else if (c == '"' || c == '\'') {
+      i = skip_quoted(text, i);
     } else if (is_ident_start(c)) {
       res.status = IfResult::Status::alphabetic;
       return res;
