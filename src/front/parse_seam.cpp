@@ -1,12 +1,16 @@
-// Stand-in start rule until the grammar lands: a file must be empty of
-// tokens; the first token of any other file is a syntax error.
+// The start rule of the grammar for the compile pass: the parser over the
+// file's tokens, with the grammar actions of the compiler.
 #include "front/parse_seam.h"
+
+#include "front/parser.h"
 
 namespace ycc {
 
 void run_start_rule(ParseContext& ctx) {
-  const Token& first = ctx.tokens.tokens.front();
-  if (first.tok != T_Eof) ctx.syntax.at_or_before(first);
+  // The declaration and translation actions plug in here; until then the
+  // grammar is checked with actions that do nothing.
+  Actions actions;
+  parse_translation_unit(ctx.tokens.tokens, actions, ctx.syntax);
 }
 
 }  // namespace ycc
