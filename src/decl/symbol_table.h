@@ -52,6 +52,7 @@ struct Symbol {
   std::vector<int> vf;      // members that are spaces or nest spaces
   char vf_flags[3] = {'n', 'n', 'n'};  // has varspace, has fixed-space, has 1-D fixed-space
   char contains_fun_ptr = 'n';
+  char complete = 'y';      // 'n' for a tag named ahead of its body
   int ref_count = 0;
   int resize_count = 0;
 
