@@ -67,6 +67,16 @@ int SymbolTable::find_typedef(std::string_view name) const {
   return 0;
 }
 
+int SymbolTable::find_visible(std::string_view name) const {
+  std::string key = stored_name(name);
+  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
+  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+    const Symbol& s = (*this)[*it];
+    if (s.name_class == 'o' && s.name == key) return *it;
+  }
+  return 0;
+}
+
 int SymbolTable::find_tag(char name_is, std::string_view name, int before) const {
   std::string key = stored_name(name);
   const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];

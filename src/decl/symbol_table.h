@@ -89,6 +89,8 @@ class SymbolTable {
   // An entry of the class and name visible in the current scope, or 0.
   int find_in_scope(char name_class, std::string_view name, int owner = 0) const;
   int find_typedef(std::string_view name) const;
+  // The innermost ordinary identifier of that name in any open scope, or 0.
+  int find_visible(std::string_view name) const;
   // An older tag ('s', 'e' or 'n') of that name, below `before`, or 0.
   int find_tag(char name_is, std::string_view name, int before) const;
 

@@ -2,16 +2,16 @@
 // file's tokens, with the grammar actions of the compiler.
 #include "front/parse_seam.h"
 
-#include "decl/declarations.h"
+#include "translate/translator.h"
 #include "front/parser.h"
 
 namespace ycc {
 
 void run_start_rule(ParseContext& ctx) {
-  Declarations actions(ctx.options, ctx.diag, ctx.tokens);
+  Translator actions(ctx.options, ctx.diag, ctx.tokens, ctx.workspace, ctx.prefix);
   struct DumpAtEnd {
     ParseContext& ctx;
-    Declarations& actions;
+    Translator& actions;
     ~DumpAtEnd() {
       if (!ctx.options.dump_symbols) return;
       ctx.diag.flush();  // the messages of the file first, then what the table holds

@@ -1,0 +1,663 @@
+// Expressions: literals, identifier references and every operator, each
+// checked against the classes of its operands. && || and ! become jumps to
+// generated labels; the conditional operator becomes jumps and a temporary.
+#include <cerrno>
+#include <cfloat>
+#include <cmath>
+#include <cstdlib>
+
+#include "common/text.h"
+#include "decl/type_keywords.h"
+#include "translate/translator.h"
+
+namespace ycc {
+
+namespace {
+
+std::string op_text(const Token& op) { return std::string(op.text); }
+
+// Splits the upper-case suffix letters off a numeric constant.
+std::string_view without_suffix(std::string_view text, std::string& suffix) {
+  size_t end = text.size();
+  while (end > 0 && (text[end - 1] == 'U' || text[end - 1] == 'L' || text[end - 1] == 'F')) --end;
+  // "0x1F": F is a hexadecimal digit, not a suffix.
+  if (text.size() > 2 && (text[1] == 'x' || text[1] == 'X')) {
+    while (end < text.size() && text[end] == 'F') ++end;
+  }
+  suffix = std::string(text.substr(end));
+  return text.substr(0, end);
+}
+
+const char not_yet[] =
+    "'%s' : space references with subscripts, components, '.occurs', '.limit', "
+    "'added_length', 'free', sizeof of an expression and calls are not translated yet";
+
+}  // namespace
+
+// ---- Primaries ------------------------------------------------------------------------
+
+void Translator::constant(const Token& t) {
+  Entry& e = push_entry(t.line);
+  e.literal = true;
+  std::string text(t.text);
+  switch (t.tok) {
+    case T_DECIMALINT:
+    case T_HEXADECIMAL: {
+      std::string suffix;
+      std::string digits(without_suffix(text, suffix));
+      bool hex = t.tok == T_HEXADECIMAL;
+      errno = 0;
+      unsigned long long v = std::strtoull(hex ? digits.c_str() + 2 : digits.c_str(), nullptr, hex ? 16 : 10);
+      bool too_big = errno == ERANGE || v > 4294967295ULL;
+      bool is_unsigned = suffix.find('U') != std::string::npos;
+      bool is_long = suffix.find('L') != std::string::npos;
+      if (too_big)
+        report(e, strf("the integer constant '%s' exceeds the representation limits of type 'unsigned long'",
+                       text.c_str()));
+      if (is_unsigned && is_long)
+        e.type_bits = 136;
+      else if (is_long)
+        e.type_bits = v > 2147483647ULL ? 136 : 8;
+      else if (is_unsigned)
+        e.type_bits = 128;
+      else
+        e.type_bits = v <= 2147483647ULL ? 4 : hex ? 128 : 136;
+      // A leading zero makes no octal constant in YARL C.
+      if (!hex) {
+        size_t nz = digits.find_first_not_of('0');
+        digits = nz == std::string::npos ? "0" : digits.substr(nz);
+      }
+      e.value = digits + suffix;
+      break;
+    }
+    case T_FLOATONE:
+    case T_FLOATTWO: {
+      std::string suffix;
+      std::string digits(without_suffix(text, suffix));
+      e.type_bits = suffix == "F" ? 16 : suffix == "L" ? 40 : 32;
+      errno = 0;
+      bool overflow;
+      if (e.type_bits == 16) {
+        double v = std::strtod(digits.c_str(), nullptr);
+        overflow = (errno == ERANGE && std::isinf(v)) || v > FLT_MAX;
+      } else if (e.type_bits == 32) {
+        double v = std::strtod(digits.c_str(), nullptr);
+        overflow = errno == ERANGE && std::isinf(v);
+      } else {
+        long double v = std::strtold(digits.c_str(), nullptr);
+        overflow = errno == ERANGE && std::isinf(v);
+      }
+      if (overflow) {
+        if (e.type_bits == 16)
+          report(e, strf("the floating-point constant '%s' exceeds the representation limit of type 'float'",
+                         text.c_str()));
+        else
+          report(e, strf("the floating-point constant '%s' exceeds the representation limit of type '%s'",
+                         text.c_str(), e.type_bits == 32 ? "double" : "long double"));
+      }
+      e.value = text;
+      break;
+    }
+    case T_CHARACTER: {
+      CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      if (c.error) e.reported = true;
+      e.value = c.c_text;
+      e.type_bits = TB_CHAR;
+      break;
+    }
+    default:
+      e.literal = false;
+      string_literal(e, t);
+      break;
+  }
+}
+
+void Translator::parenthesized(const Token& lparen) {
+  ensure_operands(1, lparen.line);
+  Entry& e = top();
+  if (e.jump_form() || e.value.empty()) return;
+  e.value = "(" + e.value + ")";
+}
+
+void Translator::identifier(const Token& name) {
+  Entry& e = push_entry(name.line);
+  std::string n(name.text);
+  int sub = symbols_.find_visible(n);
+  if (!sub) {
+    e.value = n;
+    e.empty = true;
+    report(e, strf("'%s' is an undeclared identifier", n.c_str()));
+    return;
+  }
+  fill_from_symbol(e, sub);
+}
+
+void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
+  if (kind == SubscriptKind::Expression) {
+    ensure_operands(2, lbracket.line);
+    pop_entry(nullptr);
+  }
+  ensure_operands(1, lbracket.line);
+  if (!top().reported) report(top(), strf(not_yet, "[]"));
+}
+
+void Translator::member(const Token& name) {
+  ensure_operands(1, name.line);
+  if (!top().reported) report(top(), strf(not_yet, "."));
+}
+
+void Translator::occurs(const Token& t) {
+  ensure_operands(1, t.line);
+  if (!top().reported) report(top(), strf(not_yet, ".occurs"));
+}
+
+void Translator::limit(const Token& t) {
+  ensure_operands(1, t.line);
+  if (!top().reported) report(top(), strf(not_yet, ".limit"));
+}
+
+void Translator::end_space_reference(const Token&) {}
+
+void Translator::added_length(const Token& t) {
+  Entry& e = push_entry(t.line);
+  e.empty = true;
+  report(e, strf(not_yet, "added_length"));
+}
+
+void Translator::free_reference(const Token& keyword) {
+  ensure_operands(1, keyword.line);
+  Entry& e = top();
+  e.empty = true;
+  if (!e.reported) report(e, strf(not_yet, "free"));
+}
+
+void Translator::call(const CallInfo& info) {
+  int operands = info.return_count + (info.through_pointer ? 1 : 0) + info.argument_count;
+  ensure_operands(operands, info.callee->line);
+  std::string text;
+  for (int k = 0; k < operands; ++k) {
+    std::string part;
+    pop_entry(&part);
+    text.insert(0, part);
+  }
+  Entry& e = push_entry(info.callee->line);
+  code(top_index()) = std::move(text);
+  e.empty = true;
+  report(e, strf(not_yet, info.through_pointer ? "(*x)" : std::string(info.callee->text).c_str()));
+}
+
+void Translator::syntax_error_operand(const Token& at) {
+  Entry& e = push_entry(at.line);
+  e.reported = true;
+  e.empty = true;
+}
+
+// ---- Type names, casts and sizeof --------------------------------------------------------
+
+void Translator::begin_type_name(const Token& first) { begin_declaration(DeclContext::Block, first); }
+
+void Translator::end_type_name(const Token&) {
+  if (decls_.empty()) return;
+  DeclState d = decls_.back();
+  decls_.pop_back();
+  int bits = d.type_bits;
+  int t = d.type_sym;
+  for (int guard = 0; t && symbols_[t].name_is == 't' && guard < 1000; ++guard) {
+    bits |= symbols_[t].type_bits;
+    t = symbols_[t].type_sym;
+  }
+  type_name_bits_ = d.spec_errors ? -1 : bits;
+  type_name_sym_ = t;
+  if (!d.entry_used && d.entry == symbols_.count() - 1) symbols_.drop_last();
+}
+
+void Translator::cast(const Token& lparen) {
+  ensure_operands(1, lparen.line);
+  int i = top_index();
+  to_value(i);
+  Entry& e = entry(i);
+  if (type_name_bits_ < 0) {
+    e.reported = true;
+    return;
+  }
+  if (type_name_bits_ == 0 || type_name_sym_ != 0) {
+    if (!e.reported) report(e, "invalid cast: to cast an expression, the cast must have an arithmetic type");
+    return;
+  }
+  if (!e.reported) {
+    std::string why = class_message(e, 8, true);
+    if (!why.empty()) {
+      report(e, "invalid use of cast: the casted expression " + why);
+      return;
+    }
+  }
+  e.value = "((" + type_words(type_name_bits_) + ")(" + e.value + "))";
+  e.type_bits = type_name_bits_;
+  e.kind = 0;
+  e.type_sym = 0;
+  e.lvalue = e.literal = e.emit = false;
+}
+
+void Translator::sizeof_type(const Token& keyword) {
+  Entry& e = push_entry(keyword.line);
+  e.type_bits = 128;
+  if (type_name_bits_ < 0) {
+    e.reported = true;
+    return;
+  }
+  int t = type_name_sym_;
+  if (t && symbols_[t].name_is == 's')
+    e.value = strf("sizeof(struct %s)", symbols_[t].name.c_str());
+  else if (t && symbols_[t].name_is == 'e')
+    e.value = strf("sizeof(enum %s)", symbols_[t].name.c_str());
+  else if (t)
+    e.value = "sizeof(void(*)())";
+  else
+    e.value = "sizeof(" + type_words(type_name_bits_) + ")";
+}
+
+void Translator::sizeof_expr(const Token& keyword) {
+  ensure_operands(1, keyword.line);
+  Entry& e = top();
+  if (!e.reported) report(e, strf(not_yet, "sizeof"));
+  e.empty = true;
+}
+
+// ---- Operators ---------------------------------------------------------------------------
+
+void Translator::comma(const Token& op) {
+  ensure_operands(2, op.line);
+  int left = top_index() - 1;
+  finish_expression(left, true);
+  std::string right_code;
+  Entry right = pop_entry(&right_code);
+  code(left) += right_code;
+  int line = entry(left).line;
+  entry(left) = right;
+  entry(left).line = line;
+}
+
+void Translator::unary_operator(const Token& op, Fix fix) {
+  ensure_operands(1, op.line);
+  int i = top_index();
+  std::string o = op_text(op);
+  if (op.tok == T_NOT) {
+    Entry& e = entry(i);
+    if (!test_class(e, 2, true, "'%s' : the operand %s", o)) {
+      e.reported = true;
+      return;
+    }
+    if (e.jump_form()) {
+      // Label names carry their role: the exchange renames them.
+      int new_true = e.false_label ? next_label() : 0;
+      int new_false = e.true_label ? next_label() : 0;
+      std::string& text = code(i);
+      if (e.false_label) rename_label(text, false_name(e.false_label), true_name(new_true));
+      if (e.true_label) rename_label(text, true_name(e.true_label), false_name(new_false));
+      e.false_label = new_false;
+      e.true_label = new_true;
+      return;
+    }
+    e.value = "!(" + e.value + ")";
+    e.type_bits = 4;
+    e.kind = 0;
+    e.type_sym = 0;
+    e.lvalue = e.literal = e.emit = false;
+    return;
+  }
+  to_value(i);
+  Entry& e = entry(i);
+  bool increment = op.tok == T_PLUSPLUS || op.tok == T_MINUSMINUS;
+  if (increment) {
+    if (!test_class(e, 5, true, "'%s' : the operand %s", o)) {
+      e.reported = true;
+      return;
+    }
+    if (!e.lvalue) {
+      report(e, strf("'%s' requires an l-value", o.c_str()));
+      return;
+    }
+    if (fix == Fix::Prefix) {
+      e.value = o + e.value;
+      e.emit = true;
+    } else {
+      std::string t = temporary(e.type_bits);
+      code(i) += strf("\n%s = %s;\n%s%s;", t.c_str(), e.value.c_str(), e.value.c_str(), o.c_str());
+      e.value = t;
+      e.emit = false;
+    }
+    e.lvalue = e.literal = false;
+    return;
+  }
+  if (op.tok == T_ONESCOMPLEMENT) {
+    if (!test_class(e, 7, true, "'%s' : the operand %s", o)) {
+      e.reported = true;
+      return;
+    }
+    e.value = "~" + e.value;
+    e.lvalue = e.literal = e.emit = false;
+    return;
+  }
+  const char* name = op.tok == T_MINUS ? "unary minus" : "unary plus";
+  if (!test_class(e, 5, true, "'%s' : the operand %s", name)) {
+    e.reported = true;
+    return;
+  }
+  // "- -x" must not become the decrement "--x".
+  bool same_sign = !e.value.empty() && (e.value[0] == '-' || e.value[0] == '+');
+  e.value = o + (same_sign ? " " : "") + e.value;
+  e.lvalue = e.emit = false;
+}
+
+void Translator::binary_operator(const Token& op) {
+  ensure_operands(2, op.line);
+  int left = top_index() - 1;
+  int right = top_index();
+  to_value(left);
+  to_value(right);
+  std::string o = op_text(op);
+  int cls = 5;
+  bool comparison = false;
+  switch (op.tok) {
+    case T_PERCENT:
+    case T_SHIFTLEFT:
+    case T_SHIFTRIGHT:
+    case T_BITWISEAND:
+    case T_BITWISEOR:
+    case T_BITWISEXOR:
+      cls = 7;
+      break;
+    case T_EQUAL:
+    case T_NOTEQUAL:
+      cls = 2;
+      comparison = true;
+      break;
+    case T_LESSTHAN:
+    case T_GREATERTHAN:
+    case T_LESSTHANOREQUALTO:
+    case T_GREATERTHANOREQUALTO:
+      cls = 8;
+      comparison = true;
+      break;
+    default:
+      break;
+  }
+  Entry& l = entry(left);
+  Entry& r = entry(right);
+  bool was_reported = l.reported || r.reported;
+  bool ok_left = test_class(l, cls, true, "'%s' : the left operand %s", o);
+  bool ok_right = test_class(r, cls, true, "'%s' : the right operand %s", o);
+  bool ok = ok_left && ok_right;
+  if (ok && comparison) {
+    if (is_enum(l) && is_enum(r)) {
+      if (l.type_sym != r.type_sym) {
+        diag_.error(op.line, strf("'%s' : the two operands have incompatible enumeration types", o.c_str()));
+        ok = false;
+      }
+    } else if ((is_enum(l) && !is_literal_zero(r)) || (is_enum(r) && !is_literal_zero(l))) {
+      diag_.error(op.line,
+                  strf("'%s' : an enumeration type cannot be compared to other types, with the sole "
+                       "exception of comparison with literal 0 (zero)",
+                       o.c_str()));
+      ok = false;
+    }
+    if (is_function(l) && is_function(r)) {
+      if (!same_function_type(l.type_sym, r.type_sym)) {
+        diag_.error(op.line, strf("'%s' : the two operands have incompatible function types", o.c_str()));
+        ok = false;
+      }
+    } else if ((is_function(l) && !is_literal_zero(r)) || (is_function(r) && !is_literal_zero(l))) {
+      diag_.error(op.line,
+                  strf("'%s' : a function type cannot be compared to other types, with the sole "
+                       "exception of comparison with literal 0 (zero)",
+                       o.c_str()));
+      ok = false;
+    }
+  }
+  int bits = comparison ? 4 : arithmetic_result(l.type_bits, r.type_bits);
+  bool literal = l.literal && r.literal;
+  std::string value = l.value + " " + o + " " + r.value;
+  std::string right_code;
+  pop_entry(&right_code);
+  code(left) += right_code;
+  Entry& e = entry(left);
+  e.value = std::move(value);
+  e.type_bits = bits;
+  e.kind = 0;
+  e.type_sym = 0;
+  e.dims = 0;
+  e.casted = false;
+  e.lvalue = e.emit = e.empty = false;
+  e.literal = literal && !comparison;
+  e.reported = was_reported || !ok;
+}
+
+void Translator::logical_and(const Token& op) {
+  ensure_operands(2, op.line);
+  int left = top_index() - 1;
+  Entry& l = entry(left);
+  Entry& r = entry(left + 1);
+  bool ok_left = test_class(l, 2, true, "'%s' : the left operand %s", "&&");
+  bool ok_right = test_class(r, 2, true, "'%s' : the right operand %s", "&&");
+  bool reported = !ok_left || !ok_right || l.reported || r.reported;
+  int common = r.false_label ? r.false_label : l.false_label ? l.false_label : next_label();
+  std::string f = false_name(common);
+  std::string& text = code(left);
+  if (l.false_label && l.false_label != common) rename_label(text, false_name(l.false_label), f);
+  if (l.jump_form()) {
+    if (l.true_label) {
+      std::string t = true_name(l.true_label);
+      if (last_goto_is_true(text))
+        text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
+      else
+        text += "\n" + t + ":";
+    }
+  } else {
+    text += strf("\nif(!(%s)) goto %s;", l.value.c_str(), f.c_str());
+  }
+  Entry rv = entry(left + 1);
+  std::string right_code;
+  pop_entry(&right_code);
+  std::string& joined = code(left);
+  joined += right_code;
+  if (!rv.jump_form()) joined += strf("\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
+  Entry& e = entry(left);
+  e.false_label = common;
+  e.true_label = rv.true_label;
+  e.value.clear();
+  e.type_bits = 4;
+  e.kind = 0;
+  e.type_sym = 0;
+  e.lvalue = e.literal = e.emit = e.empty = false;
+  e.reported = reported;
+}
+
+void Translator::logical_or(const Token& op) {
+  ensure_operands(2, op.line);
+  int left = top_index() - 1;
+  Entry& l = entry(left);
+  Entry& r = entry(left + 1);
+  bool ok_left = test_class(l, 2, true, "'%s' : the left operand %s", "||");
+  bool ok_right = test_class(r, 2, true, "'%s' : the right operand %s", "||");
+  bool reported = !ok_left || !ok_right || l.reported || r.reported;
+  int common = r.true_label ? r.true_label : l.true_label ? l.true_label : next_label();
+  std::string t = true_name(common);
+  std::string& text = code(left);
+  if (l.true_label && l.true_label != common) rename_label(text, true_name(l.true_label), t);
+  if (l.jump_form()) {
+    if (l.false_label) {
+      std::string f = false_name(l.false_label);
+      if (!last_goto_is_true(text))
+        text += strf("\ngoto %s;\n%s:", t.c_str(), f.c_str());
+      else
+        text += "\n" + f + ":";
+    }
+  } else {
+    text += strf("\nif(%s) goto %s;", l.value.c_str(), t.c_str());
+  }
+  Entry rv = entry(left + 1);
+  std::string right_code;
+  pop_entry(&right_code);
+  std::string& joined = code(left);
+  joined += right_code;
+  if (!rv.jump_form()) joined += strf("\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
+  Entry& e = entry(left);
+  e.true_label = common;
+  e.false_label = rv.false_label;
+  e.value.clear();
+  e.type_bits = 4;
+  e.kind = 0;
+  e.type_sym = 0;
+  e.lvalue = e.literal = e.emit = e.empty = false;
+  e.reported = reported;
+}
+
+void Translator::conditional(const Token& question, const Token& colon) {
+  ensure_operands(3, colon.line);
+  int a = top_index() - 2, b = a + 1, c = a + 2;
+  to_value(b);
+  to_value(c);
+  const char* head = "a '?' b ':' c -- ";
+  Entry& ea = entry(a);
+  if (!ea.reported) {
+    std::string why = class_message(ea, 2, true);
+    if (!why.empty()) report(ea, std::string(head) + "expression 'a' " + why);
+  }
+  std::string f = control_on(a);
+  std::string skip = generated_name("skip", ++skip_counter_);
+  Entry eb = entry(b), ec = entry(c);
+  bool reported = entry(a).reported || eb.reported || ec.reported;
+  int line = question.line;
+  auto fail = [&](const std::string& text) {
+    if (!reported) diag_.error(line, std::string(head) + text);
+    reported = true;
+  };
+  int bits = 4;
+  char kind = 0;
+  int type_sym = 0;
+  if (eb.casted || ec.casted) {
+    fail("neither operand 'b' nor 'c' can be a casted character space");
+  } else if (is_enum(eb) || is_enum(ec)) {
+    const Entry& named = is_enum(eb) ? eb : ec;
+    kind = 'e';
+    type_sym = named.type_sym;
+    if (is_enum(eb) && is_enum(ec)) {
+      if (eb.type_sym != ec.type_sym) fail("operands 'b' and 'c' have incompatible enumeration types");
+    } else if (!is_literal_zero(is_enum(eb) ? ec : eb)) {
+      fail("for operands 'b' and 'c', an enumeration type cannot be paired with other types, with the "
+           "sole exception of pairing with literal 0 (zero)");
+    }
+  } else if (is_function(eb) || is_function(ec)) {
+    if (is_function(eb) && is_function(ec)) {
+      if (!same_function_type(eb.type_sym, ec.type_sym))
+        fail("operands 'b' and 'c' have incompatible function types");
+    } else if (!is_literal_zero(is_function(eb) ? ec : eb)) {
+      fail("for operands 'b' and 'c', a function type cannot be paired with other types, with the "
+           "sole exception of pairing with literal 0 (zero)");
+    }
+    if (!reported) fail("operands 'b' and 'c' are functions: the conditional of functions is not translated yet");
+  } else if (is_aggregate(eb) || is_aggregate(ec)) {
+    if (eb.dims != ec.dims || eb.kind != ec.kind || eb.type_sym != ec.type_sym)
+      fail("operands 'b' and 'c' have incompatible types");
+    else if (!reported)
+      fail("operands 'b' and 'c' are aggregates: the conditional of aggregates is not translated yet");
+  } else if (eb.type_bits && ec.type_bits && !eb.empty && !ec.empty) {
+    bool lenient = (eb.literal || ec.literal) && is_floating(eb.type_bits) == is_floating(ec.type_bits);
+    if (!lenient && !sufficiently_equivalent(eb.type_bits, ec.type_bits))
+      fail(strf("operand 'b' arithmetic type '%s' is not sufficiently equivalent to operand 'c' "
+                "arithmetic type '%s'",
+                type_words(eb.type_bits).c_str(), type_words(ec.type_bits).c_str()));
+    bits = eb.literal && !ec.literal ? ec.type_bits
+           : ec.literal && !eb.literal ? eb.type_bits
+                                       : arithmetic_result(eb.type_bits, ec.type_bits);
+  } else {
+    fail("operands 'b' and 'c' have incompatible types");
+  }
+  std::string t = temporary(kind ? 4 : bits);
+  std::string c_code, b_code;
+  pop_entry(&c_code);
+  pop_entry(&b_code);
+  code(a) += b_code + strf("\n%s = %s;\ngoto %s;\n%s:", t.c_str(), eb.value.c_str(), skip.c_str(), f.c_str()) +
+             c_code + strf("\n%s = %s;\n%s:", t.c_str(), ec.value.c_str(), skip.c_str());
+  Entry& e = entry(a);
+  e.value = t;
+  e.type_bits = kind ? 0 : bits;
+  e.kind = kind;
+  e.type_sym = type_sym;
+  e.dims = 0;
+  e.false_label = e.true_label = 0;
+  e.lvalue = e.literal = e.emit = e.empty = false;
+  e.reported = reported;
+}
+
+void Translator::assignment(AssignMode mode, const Token& op) {
+  ensure_operands(2, op.line);
+  int left = top_index() - 1, right = top_index();
+  to_value(right);
+  std::string o = op_text(op);
+  Entry& l = entry(left);
+  Entry& r = entry(right);
+  bool reported = l.reported || r.reported;
+  auto fail = [&](const std::string& text) {
+    if (!reported) diag_.error(op.line, text);
+    reported = true;
+  };
+  if (mode == AssignMode::Compound) {
+    bool integral = o == "%=" || o == "<<=" || o == ">>=" || o == "&=" || o == "|=" || o == "^=";
+    bool ok_left = test_class(l, integral ? 7 : 5, true, "'%s' : the left operand %s", o);
+    bool ok_right = test_class(r, integral ? 7 : 5, true, "'%s' : the right operand %s", o);
+    if (!ok_left || !ok_right) reported = true;
+    if (!reported && !l.lvalue) fail(strf("'%s' requires an l-value", o.c_str()));
+  } else if (is_aggregate(l) || is_aggregate(r)) {
+    fail(strf("'%s' : assignment and move of structures, spaces and casted character spaces are not "
+              "translated yet",
+              o.c_str()));
+  } else if (mode == AssignMode::Move) {
+    fail("'===' : the operands must be structures or spaces");
+  } else {
+    const char* verb = "assigned";
+    if (!l.lvalue) fail(strf("'%s' : the left operand is not an l-value", o.c_str()));
+    if (is_enum(l) || is_enum(r)) {
+      if (is_enum(l) && is_enum(r)) {
+        if (l.type_sym != r.type_sym) fail(strf("'%s' : the operands have incompatible enumeration types", o.c_str()));
+      } else if (is_enum(l)) {
+        if (!is_literal_zero(r))
+          fail("'=' : a non-enumeration value cannot be assigned to an enumeration variable, with the sole "
+               "exception of assigning literal 0 (zero)");
+      } else {
+        fail(strf("'%s' : an enumeration value cannot be %s to a non-enumeration variable", o.c_str(), verb));
+      }
+    } else if (is_function(l) || is_function(r)) {
+      if (is_function(l) && is_function(r)) {
+        if (!same_function_type(l.type_sym, r.type_sym))
+          fail(strf("'%s' : the operands have incompatible function types", o.c_str()));
+      } else if (is_function(l)) {
+        if (!is_literal_zero(r))
+          fail("'=' : a non-function value cannot be assigned to a function variable, with the sole "
+               "exception of assigning literal 0 (zero)");
+      } else {
+        fail(strf("'%s' : a function value cannot be %s to a non-function variable", o.c_str(), verb));
+      }
+    } else if (l.type_bits && r.type_bits && !l.empty && !r.empty) {
+      // A literal takes any type of its own family.
+      bool lenient = r.literal && is_floating(l.type_bits) == is_floating(r.type_bits);
+      if (!lenient && !sufficiently_equivalent(l.type_bits, r.type_bits))
+        fail(strf("'%s' : the left operand's arithmetic type '%s' is not sufficiently equivalent to the "
+                  "right operand's arithmetic type '%s'",
+                  o.c_str(), type_words(l.type_bits).c_str(), type_words(r.type_bits).c_str()));
+    } else {
+      fail(strf("'%s' : the operands have incompatible types", o.c_str()));
+    }
+  }
+  std::string value = l.value + " " + o + " " + r.value;
+  std::string right_code;
+  pop_entry(&right_code);
+  code(left) += right_code;
+  Entry& e = entry(left);
+  e.value = std::move(value);
+  e.emit = true;
+  e.lvalue = e.literal = false;
+  e.reported = reported;
+}
+
+}  // namespace ycc

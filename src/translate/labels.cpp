@@ -1,0 +1,101 @@
+// Generated labels and the jump form of boolean expressions: a condition
+// lowered by &&, || or ! is code that jumps to a "false" or a "true" label and
+// falls through otherwise; what the fall-through means is read from the last
+// goto of the code.
+#include "common/text.h"
+#include "translate/translator.h"
+
+namespace ycc {
+
+namespace {
+const char source_name[] = "yc_fun2";
+}
+
+bool Translator::last_goto_is_true(const std::string& text) const {
+  size_t at = text.rfind("goto ");
+  if (at != std::string::npos) {
+    std::string_view rest = std::string_view(text).substr(at + 5);
+    if (rest.starts_with(generated_name("false"))) return false;
+    if (rest.starts_with(generated_name("true"))) return true;
+  }
+  internal_check_failed("goto scan finds a false or a true label", source_name, __LINE__);
+}
+
+void Translator::rename_label(std::string& text, const std::string& from, const std::string& to) {
+  if (from == to || from.empty()) return;
+  std::string out;
+  out.reserve(text.size());
+  size_t pos = 0;
+  for (;;) {
+    size_t at = text.find(from, pos);
+    if (at == std::string::npos) break;
+    size_t end = at + from.size();
+    bool whole = (at == 0 || !is_ident_char(text[at - 1])) &&
+                 (end == text.size() || !is_ident_char(text[end]));
+    out.append(text, pos, at - pos);
+    out += whole ? to : from;
+    pos = end;
+  }
+  out.append(text, pos, std::string::npos);
+  text = std::move(out);
+}
+
+std::string Translator::control_on(int i) {
+  Entry& e = entry(i);
+  int number = e.false_label ? e.false_label : next_label();
+  std::string f = false_name(number);
+  if (!e.reported) {
+    std::string why = class_message(e, 2, true);
+    if (!why.empty()) {
+      report(e, "the control expression " + why);
+      e.false_label = number;
+      e.true_label = 0;
+      return f;
+    }
+  }
+  std::string& text = code(i);
+  if (e.true_label) {
+    std::string t = true_name(e.true_label);
+    if (last_goto_is_true(text))
+      text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
+    else
+      text += "\n" + t + ":";
+  } else if (!e.false_label) {
+    text += strf("\nif(!(%s)) goto %s;", e.value.c_str(), f.c_str());
+  }
+  e.false_label = number;
+  e.true_label = 0;
+  return f;
+}
+
+void Translator::to_value(int i) {
+  if (!entry(i).jump_form()) return;
+  std::string f = control_on(i);
+  std::string t = temporary(4);
+  std::string& text = code(i);
+  text = strf("\n%s = 0;", t.c_str()) + text + strf("\n%s = 1;\n%s:", t.c_str(), f.c_str());
+  Entry& e = entry(i);
+  e.value = t;
+  e.type_bits = 4;
+  e.type_sym = 0;
+  e.kind = 0;
+  e.dims = 0;
+  e.false_label = e.true_label = 0;
+  e.lvalue = e.literal = e.empty = false;
+}
+
+void Translator::finish_expression(int i, bool as_statement) {
+  Entry& e = entry(i);
+  if (e.jump_form()) {
+    std::string f = control_on(i);
+    code(i) += "\n" + f + ":";
+    entry(i).false_label = 0;
+    entry(i).value.clear();
+    return;
+  }
+  if (as_statement && e.emit && !e.value.empty()) code(i) += "\n" + e.value + ";";
+  e.value.clear();
+  e.emit = false;
+}
+
+}  // namespace ycc

@@ -1,0 +1,511 @@
+// Statements: each one joins the fragments of its parts, left on the stack
+// by the statements and expressions inside it, into one fragment of labels
+// and gotos. A statement that is an item of a block is flushed into the
+// fragment of the enclosing statement, or into the work file at the
+// function's top level.
+#include <cerrno>
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+
+#include "common/text.h"
+#include "translate/translator.h"
+
+namespace ycc {
+
+namespace {
+
+const char source_name[] = "yc_fun2";
+constexpr int max_exception = 32000;
+
+}  // namespace
+
+int Translator::unlabelled_frames() const {
+  int n = 0;
+  for (const Frame& f : frames_)
+    if (!f.labelled) ++n;
+  return n;
+}
+
+void Translator::replace_top(int n, std::string text, int line) {
+  for (int k = 0; k < n && stack_size() > 0; ++k) pop_entry(nullptr);
+  push_entry(line);
+  code(top_index()) = std::move(text);
+}
+
+// ---- Function bodies, blocks and statement frames -----------------------------
+
+void Translator::open_function_body(const Token& lbrace, const FunctionLabels& labels) {
+  Declarations::open_function_body(lbrace, labels);
+  statement_labels_.clear();
+  for (const Token* t : labels.labels) {
+    LabelInfo& info = statement_labels_[std::string(t->text)];
+    if (info.line == 0) info.line = t->line;
+  }
+  handlers_.clear();
+  for (const Token* t : labels.handlers) {
+    char* end = nullptr;
+    errno = 0;
+    long n = std::strtol(std::string(t->text).c_str(), &end, 10);
+    if (errno || n < 1 || n > max_exception) continue;
+    bool known = false;
+    for (const Handler& h : handlers_) known = known || h.number == n;
+    if (!known) handlers_.push_back({static_cast<int>(n), false});
+  }
+  temp_declared_.clear();
+  temp_next_.clear();
+  loops_.clear();
+  switches_.clear();
+  for_heads_.clear();
+  labels_pending_.clear();
+  ws_.truncate_fragments(0);
+  entries_.clear();
+  frames_.clear();
+  frames_.push_back({true, 0});
+  ws_.to_fragment = true;
+}
+
+void Translator::close_function_body(const Token& rbrace) {
+  for (const auto& [name, info] : statement_labels_)
+    if (info.defined > 0 && info.referenced == 0)
+      diag_.warning(info.line, strf("statement label '%s' is unreferenced in this function", name.c_str()), 2);
+  ws_.to_fragment = false;
+  ws_.truncate_fragments(0);
+  entries_.clear();
+  frames_.clear();
+  Declarations::close_function_body(rbrace);
+}
+
+void Translator::begin_statement(const Token&) {
+  temp_next_.clear();
+  frames_.push_back({false, stack_size()});
+}
+
+void Translator::end_statement(const Token& last) {
+  if (frames_.empty()) return;
+  Frame f = frames_.back();
+  frames_.pop_back();
+  if (stack_size() < f.level) return;
+  join_above(f.level, last.line);
+  if (!frames_.empty() && !frames_.back().block) return;
+  // A block item: flushed into the enclosing fragment or the work file.
+  std::string text;
+  pop_entry(&text);
+  if (stack_size() == 0)
+    ws_.put_text('n', text);
+  else
+    code(top_index()) += text;
+}
+
+void Translator::expression_statement(const Token& semicolon) {
+  ensure_operands(1, semicolon.line);
+  finish_expression(top_index(), true);
+}
+
+void Translator::empty_statement(const Token& semicolon) { push_entry(semicolon.line); }
+
+void Translator::open_block(const Token& lbrace) {
+  push_entry(lbrace.line);
+  frames_.push_back({true, stack_size()});
+  Declarations::open_block(lbrace);
+}
+
+void Translator::close_block(const Token& rbrace) {
+  if (!frames_.empty() && frames_.back().block) frames_.pop_back();
+  // C wants a statement between a label and the brace that closes a block.
+  if (stack_size() > 0) {
+    std::string& text = code(top_index());
+    if (text.starts_with("\n{") && ends_with(text, ":")) text += "\n;";
+  }
+  Declarations::close_block(rbrace);
+}
+
+// ---- Structured statements ----------------------------------------------------------
+
+void Translator::control_expression(const Token& rparen) {
+  ensure_operands(1, rparen.line);
+  control_on(top_index());
+}
+
+void Translator::if_end(bool has_else, const Token& last) {
+  ensure_operands(has_else ? 3 : 2, last.line);
+  std::string else_code, then_code;
+  if (has_else) pop_entry(&else_code);
+  pop_entry(&then_code);
+  int i = top_index();
+  std::string f = false_name(entry(i).false_label);
+  std::string& text = code(i);
+  if (has_else) {
+    std::string skip = generated_name("skip", ++skip_counter_);
+    text += then_code + strf("\ngoto %s;\n%s:", skip.c_str(), f.c_str()) + else_code + "\n" + skip + ":";
+  } else {
+    text += then_code + "\n" + f + ":";
+  }
+  Entry& e = entry(i);
+  e.value.clear();
+  e.false_label = e.true_label = 0;
+}
+
+void Translator::while_start(const Token& rparen) {
+  ensure_operands(1, rparen.line);
+  std::string f = control_on(top_index());
+  loops_.push_back({'p', generated_name("cont", ++cont_counter_), f});
+}
+
+void Translator::while_end(const Token& last) {
+  ensure_operands(2, last.line);
+  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
+  if (!loops_.empty()) loops_.pop_back();
+  std::string body, condition;
+  pop_entry(&body);
+  pop_entry(&condition);
+  replace_top(0,
+              "\n" + loop.cont + ":" + condition + body +
+                  strf("\ngoto %s;\n%s:", loop.cont.c_str(), loop.brk.c_str()),
+              last.line);
+}
+
+void Translator::do_start(const Token&) {
+  std::string c = generated_name("cont", ++cont_counter_);
+  loops_.push_back({'p', c, false_name(next_label())});
+}
+
+void Translator::do_end(const Token& rparen) {
+  ensure_operands(2, rparen.line);
+  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
+  if (!loops_.empty()) loops_.pop_back();
+  std::string top = generated_name("cont", ++cont_counter_);
+  std::string own_false = control_on(top_index());
+  std::string condition, body;
+  pop_entry(&condition);
+  rename_label(condition, own_false, loop.brk);
+  pop_entry(&body);
+  replace_top(0,
+              "\n" + top + ":" + body + "\n" + loop.cont + ":" + condition +
+                  strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
+              rparen.line);
+}
+
+void Translator::for_start(bool has_init, bool has_condition, bool has_step, const Token& rparen) {
+  int heads = (has_init ? 1 : 0) + (has_condition ? 1 : 0) + (has_step ? 1 : 0);
+  ensure_operands(heads, rparen.line);
+  int i = stack_size() - heads;
+  if (has_init) finish_expression(i++, true);
+  int condition = has_condition ? i++ : -1;
+  if (has_step) finish_expression(i, true);
+  std::string f = condition >= 0 ? control_on(condition) : false_name(next_label());
+  loops_.push_back({'p', generated_name("cont", ++cont_counter_), f});
+  for_heads_.push_back((has_init ? 1 : 0) | (has_condition ? 2 : 0) | (has_step ? 4 : 0));
+}
+
+void Translator::for_end(const Token& last) {
+  int heads = for_heads_.empty() ? 0 : for_heads_.back();
+  if (!for_heads_.empty()) for_heads_.pop_back();
+  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
+  if (!loops_.empty()) loops_.pop_back();
+  int count = 1 + ((heads & 1) ? 1 : 0) + ((heads & 2) ? 1 : 0) + ((heads & 4) ? 1 : 0);
+  ensure_operands(count, last.line);
+  std::string init, condition, step, body;
+  pop_entry(&body);
+  if (heads & 4) pop_entry(&step);
+  if (heads & 2) pop_entry(&condition);
+  if (heads & 1) pop_entry(&init);
+  std::string top = generated_name("cont", ++cont_counter_);
+  replace_top(0,
+              init + "\n" + top + ":" + condition + body + "\n" + loop.cont + ":" + step +
+                  strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
+              last.line);
+}
+
+// ---- Jumps ---------------------------------------------------------------------------
+
+void Translator::goto_stmt(const Token& label) {
+  std::string name(label.text);
+  push_entry(label.line);
+  auto found = statement_labels_.find(name);
+  if (found == statement_labels_.end()) {
+    diag_.error(label.line,
+                strf("the goto label '%s' is not defined as a statement label in this function", name.c_str()));
+  } else {
+    ++found->second.referenced;
+  }
+  code(top_index()) = "\ngoto " + name + ";";
+}
+
+void Translator::continue_stmt(const Token& keyword) {
+  push_entry(keyword.line);
+  for (auto it = loops_.rbegin(); it != loops_.rend(); ++it) {
+    if (it->kind == 'p') {
+      code(top_index()) = "\ngoto " + it->cont + ";";
+      return;
+    }
+  }
+  diag_.error(keyword.line,
+              "illegal placement of continue: there is no enclosing while, do, or for statement");
+}
+
+void Translator::break_stmt(const Token& keyword) {
+  push_entry(keyword.line);
+  if (loops_.empty()) {
+    diag_.error(keyword.line,
+                "illegal placement of break: there is no enclosing while, do, for, or switch statement");
+    return;
+  }
+  const LoopEntry& loop = loops_.back();
+  if (loop.kind == 'p')
+    code(top_index()) = "\ngoto " + loop.brk + ";";
+  else if (loop.kind == 's')
+    code(top_index()) = "\nbreak;";
+  else
+    internal_check_failed("loop kind 'p' or 's'", source_name, __LINE__);
+}
+
+void Translator::return_stmt(const Token& keyword) {
+  push_entry(keyword.line);
+  code(top_index()) = "\ngoto " + generated_name("finish") + ";";
+}
+
+bool Translator::exception_number(const Token& number, int& value) {
+  std::string text(number.text);
+  errno = 0;
+  char* end = nullptr;
+  long n = std::strtol(text.c_str(), &end, 10);
+  bool ok = errno == 0 && end && *end == '\0' && n >= 1 && n <= max_exception;
+  if (!ok) {
+    diag_.error(number.line,
+                strf("an exception number must be between 1 and %d inclusive: number '%s' is invalid",
+                     max_exception, text.c_str()));
+    value = n >= INT_MIN && n <= INT_MAX ? static_cast<int>(n) : 0;
+    return false;
+  }
+  value = static_cast<int>(n);
+  return true;
+}
+
+void Translator::raise_stmt(const Token& number) {
+  int n = 0;
+  exception_number(number, n);
+  push_entry(number.line);
+  code(top_index()) = strf("\n%s = %d;\ngoto %s;", generated_name("exception").c_str(), n,
+                           generated_name("finish").c_str());
+}
+
+// ---- Labelled statements -----------------------------------------------------------
+
+void Translator::enter_labelled_statement(LabelKind kind, const Token&) {
+  if (!frames_.empty()) frames_.back().labelled = true;
+  labels_pending_.push_back({});
+  if (switches_.empty()) return;
+  SwitchEntry& sw = switches_.back();
+  ++sw.label_depth;
+  if (kind == LabelKind::Case || kind == LabelKind::Default) sw.break_pending = true;
+}
+
+void Translator::statement_label(const Token& name) {
+  std::string n(name.text);
+  LabelInfo& info = statement_labels_[n];
+  if (info.line == 0) info.line = name.line;
+  if (++info.defined > 1)
+    diag_.error(name.line,
+                strf("statement label '%s' is a duplicate: defined elsewhere in this function", n.c_str()));
+  if (!labels_pending_.empty()) labels_pending_.back().text = "\n" + n + ":";
+}
+
+void Translator::case_label(CaseForm form, int mode, const Token& value) {
+  Folded folded;
+  if (form == CaseForm::ConstantExpression) folded = pop_constant();
+  std::string* pending = labels_pending_.empty() ? nullptr : &labels_pending_.back().text;
+  if (switches_.empty()) {
+    diag_.error(value.line, "a case label can only appear within a switch statement");
+    return;
+  }
+  SwitchEntry& sw = switches_.back();
+  if (unlabelled_frames() != sw.depth)
+    diag_.error(value.line, "a case label must appear on a top-level statement within the switch statement");
+  if (mode != 1 && mode != 2) internal_check_failed("mode == 1 || mode == 2", source_name, __LINE__);
+
+  if (form == CaseForm::Identifier) {
+    std::string name(value.text);
+    int sub = symbols_.find_visible(name);
+    if (sub) ++symbols_[sub].ref_count;
+    if (pending) *pending = "\ncase " + name + ":";
+    if (!sw.enum_type) {
+      diag_.error(value.line,
+                  strf("invalid case label: unless the switch expression is an enumeration variable (it "
+                       "is not) and '%s' is an enumeration constant of that enumeration type, then case "
+                       "label '%s' is invalid",
+                       name.c_str(), name.c_str()));
+    } else if (!sub || symbols_[sub].name_is != 'c') {
+      diag_.error(value.line,
+                  strf("invalid case label: label '%s' is not an enumeration constant (or zero) as "
+                       "required by the enumeration type of the switch expression",
+                       name.c_str()));
+    } else if (symbols_[sub].owner != sw.enum_type) {
+      diag_.error(value.line,
+                  strf("invalid case label: label '%s' is an enumeration constant, but it does not "
+                       "belong to the enumeration type of the switch expression as required",
+                       name.c_str()));
+    } else {
+      bool seen = false;
+      for (int c : sw.constants) seen = seen || c == sub;
+      if (seen)
+        diag_.error(value.line,
+                    strf("duplicate case label: label '%s' must be unique within the switch statement",
+                         name.c_str()));
+      else
+        sw.constants.push_back(sub);
+    }
+    return;
+  }
+
+  // A numeric value: a folded constant or a character constant.
+  std::string sign, text;
+  long long number = 0;
+  if (form == CaseForm::Character) {
+    CharacterConstant c = check_character_constant(value.text, diag_, value.line);
+    text = c.c_text;
+    number = c.value;
+  } else {
+    if (folded.kind == 'f') {
+      diag_.error(value.line, "invalid case label: the label value has a floating-point type");
+      if (pending) *pending = "\ncase 1:";
+      return;
+    }
+    bool negative;
+    double magnitude;
+    if (folded.converted) {
+      negative = folded.value < 0;
+      magnitude = std::trunc(negative ? -folded.value : folded.value);
+      text = strf("%.0f", magnitude);
+    } else {
+      negative = folded.negative;
+      errno = 0;
+      unsigned long long u = std::strtoull(folded.text.c_str(), nullptr, folded.kind == 'x' ? 16 : 10);
+      magnitude = errno == ERANGE ? 1e30 : static_cast<double>(u);
+      text = folded.text;
+    }
+    if ((negative && magnitude > 2147483648.0) || (!negative && magnitude > 4294967295.0)) {
+      diag_.error(value.line,
+                  strf("invalid case label: the label value exceeds the representation limits of type "
+                       "'%s', which is the largest integral type",
+                       negative ? "long" : "unsigned long"));
+      if (pending) *pending = "\ncase 1:";
+      return;
+    }
+    sign = negative && magnitude != 0 ? "-" : "";
+    number = static_cast<long long>(magnitude) * (negative ? -1 : 1);
+  }
+  if (pending) *pending = "\ncase " + sign + text + ":";
+  if (sw.enum_type && number != 0) {
+    diag_.error(value.line,
+                strf("invalid case label: label '%s%s' is not an enumeration constant (or zero) as "
+                     "required by the enumeration type of the switch expression",
+                     sign.c_str(), text.c_str()));
+    return;
+  }
+  for (long long v : sw.values) {
+    if (v == number) {
+      diag_.error(value.line,
+                  strf("duplicate case label: label value '%s%s' must be unique within the switch "
+                       "statement",
+                       sign.c_str(), text.c_str()));
+      return;
+    }
+  }
+  sw.values.push_back(number);
+}
+
+void Translator::default_label(const Token& keyword) {
+  if (!labels_pending_.empty()) labels_pending_.back().text = "\ndefault:";
+  if (switches_.empty()) {
+    diag_.error(keyword.line, "a default label can only appear within a switch statement");
+    return;
+  }
+  SwitchEntry& sw = switches_.back();
+  if (unlabelled_frames() != sw.depth)
+    diag_.error(keyword.line,
+                "a default label must appear on a top-level statement within the switch statement");
+  if (sw.default_seen)
+    diag_.error(keyword.line,
+                "duplicate default label: the default label can only occur at most once within the "
+                "switch statement");
+  sw.default_seen = true;
+}
+
+void Translator::exception_handler(const Token& number) {
+  int n = 0;
+  bool valid = exception_number(number, n);
+  if (!labels_pending_.empty()) labels_pending_.back().text = "\n" + generated_name("exception", n) + ":";
+  if (!valid) return;
+  for (Handler& h : handlers_) {
+    if (h.number != n) continue;
+    if (h.defined)
+      diag_.error(number.line,
+                  strf("duplicate : the function has more than a single handler defined for exception %d", n));
+    h.defined = true;
+    return;
+  }
+  handlers_.push_back({n, true});
+}
+
+void Translator::leave_labelled_statement(LabelKind, const Token& last) {
+  ensure_operands(1, last.line);
+  std::string label;
+  if (!labels_pending_.empty()) {
+    label = std::move(labels_pending_.back().text);
+    labels_pending_.pop_back();
+  }
+  std::string& text = code(top_index());
+  text.insert(0, label);
+  if (switches_.empty()) return;
+  SwitchEntry& sw = switches_.back();
+  if (--sw.label_depth == 0 && sw.break_pending) {
+    sw.break_pending = false;
+    text.insert(0, "\nbreak;");
+  }
+}
+
+// ---- switch ----------------------------------------------------------------------------
+
+void Translator::switch_start(const Token& rparen) {
+  ensure_operands(1, rparen.line);
+  int i = top_index();
+  to_value(i);
+  Entry& e = entry(i);
+  bool integral = class_message(e, 7, true).empty();
+  bool enumeration = is_enum(e) && e.dims == 0 && !e.casted;
+  if (!e.reported && !integral && !enumeration)
+    report(e, "the expression of the switch statement requires an integral or enumeration type");
+  SwitchEntry sw;
+  sw.enum_type = e.kind == 'e' && e.dims == 0 ? e.type_sym : 0;
+  sw.depth = unlabelled_frames() + 2;
+  switches_.push_back(sw);
+  loops_.push_back({'s', "", ""});
+}
+
+void Translator::switch_end(const Token& rbrace) {
+  ensure_operands(2, rbrace.line);
+  SwitchEntry sw = switches_.empty() ? SwitchEntry{} : switches_.back();
+  if (!switches_.empty()) switches_.pop_back();
+  if (!loops_.empty()) loops_.pop_back();
+  if (sw.enum_type && !sw.default_seen) {
+    int declared = 0;
+    for (int k = sw.enum_type + 1; k < symbols_.count(); ++k)
+      if (symbols_[k].name_is == 'c' && symbols_[k].owner == sw.enum_type) ++declared;
+    int used = static_cast<int>(sw.constants.size());
+    if (used != declared)
+      diag_.error(rbrace.line,
+                  strf("the enumeration type '%s' has %d enumeration constants, but this switch "
+                       "statement has case labels for only %d of those enumeration constants, and "
+                       "there is no 'default' label",
+                       symbols_[sw.enum_type].shown_name().c_str(), declared, used));
+  }
+  std::string body;
+  pop_entry(&body);
+  int i = top_index();
+  std::string& text = code(i);
+  text += "\nswitch(" + entry(i).value + ")\n{" + body + "\n;}";
+  entry(i).value.clear();
+}
+
+}  // namespace ycc
