@@ -1,0 +1,111 @@
+// Runs the parser with the translation actions over a source text and keeps
+// what was written between the opening and the closing of each function
+// body: the translated statements, without the heading and closing code.
+#pragma once
+
+#include <cstdio>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "front/lexer.h"
+#include "front/parser.h"
+#include "front/syntax_errors.h"
+#include "front/workspace.h"
+#include "translate/translator.h"
+
+namespace ycc::testing {
+
+class BodyRecorder : public Translator {
+ public:
+  BodyRecorder(const Options& o, Diagnostics& d, const TokenBuffer& t, Workspace& ws, std::FILE* f,
+               const std::string& prefix)
+      : Translator(o, d, t, ws, prefix), file_(f) {}
+
+  void open_function_body(const Token& lbrace, const FunctionLabels& labels) override {
+    Translator::open_function_body(lbrace, labels);
+    std::fflush(file_);
+    start_ = std::ftell(file_);
+    locals_at_open_ = ws_.wd_locals.size();
+  }
+  void close_function_body(const Token& rbrace) override {
+    std::fflush(file_);
+    long end = std::ftell(file_);
+    std::string text(static_cast<size_t>(end - start_), '\0');
+    std::fseek(file_, start_, SEEK_SET);
+    size_t got = std::fread(text.data(), 1, text.size(), file_);
+    text.resize(got);
+    std::fseek(file_, 0, SEEK_END);
+    bodies.push_back(text);
+    locals.push_back(ws_.wd_locals.substr(std::min(locals_at_open_, ws_.wd_locals.size())));
+    Translator::close_function_body(rbrace);
+  }
+
+  std::vector<std::string> bodies;
+  std::vector<std::string> locals;  // what the body added to the locals slot
+
+ private:
+  std::FILE* file_;
+  long start_ = 0;
+  size_t locals_at_open_ = 0;
+};
+
+struct TranslateRun {
+  Options options;
+  std::ostringstream err;
+  Diagnostics diag{err, options};
+  std::vector<std::string> bodies;
+  std::vector<std::string> locals;
+  int stack_left = 0;
+
+  // Translates `source`; returns the body of its last function.
+  std::string run(const std::string& source, const std::string& prefix = "zz") {
+    options.prefix = prefix;
+    diag.begin_compile();
+    std::FILE* f = std::tmpfile();
+    {
+      Workspace ws(options, diag);
+      ws.reset();
+      ws.attach_work_file(f);
+      ws.set_prefix(prefix);
+      TokenBuffer tokens = tokenize(source, diag.files(), diag.err());
+      SyntaxErrors syntax(diag);
+      BodyRecorder t(options, diag, tokens, ws, f, prefix);
+      try {
+        parse_translation_unit(tokens.tokens, t, syntax);
+      } catch (const CompileHalt&) {
+      }
+      bodies = t.bodies;
+      locals = t.locals;
+      stack_left = t.stack_size();
+      diag.flush();
+    }
+    std::fclose(f);
+    return bodies.empty() ? std::string() : bodies.back();
+  }
+  std::string messages() const { return err.str(); }
+  // The messages without their layout: "line kind: text" each, the wrapped
+  // lines joined again.
+  std::vector<std::string> message_list() const {
+    std::vector<std::string> out;
+    std::istringstream in(err.str());
+    std::string line;
+    while (std::getline(in, line)) {
+      size_t close = line.find(") ");
+      bool head = line.size() > 2 && line[0] == ' ' && line[1] == '(' && close != std::string::npos &&
+                  line.compare(1, 6, "(line)") != 0;
+      if (head) {
+        std::string number = line.substr(2, close - 2);
+        std::string rest = line.substr(close + 2);
+        if (rest.starts_with("**")) rest = rest.substr(2);
+        out.push_back(number + " " + rest);
+      } else if (!out.empty() && line.starts_with("   ")) {
+        size_t first = line.find_first_not_of(' ');
+        out.back() += " " + line.substr(first);
+      }
+    }
+    return out;
+  }
+};
+
+}  // namespace ycc::testing

@@ -1,0 +1,233 @@
+#include <gtest/gtest.h>
+
+#include "translate_fixture.h"
+
+namespace ycc::testing {
+namespace {
+
+// A function f with int locals a, b, c, x and the return variable r.
+std::string in_function(const std::string& statements, const std::string& globals = "") {
+  return globals + "f() int r;\nf() int r\n{\n int a;\n int b;\n int c;\n int x;\n" + statements + "\n}\n";
+}
+
+const char color[] = "enum color { red, green, blue };\nenum size { small, large };\n";
+
+TEST(TranslateStatements, IfWithAndWithoutElse) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("if (a) x = 1;")), "\nif(!(a)) goto zzzz_false1;\nx = 1;\nzzzz_false1:");
+  TranslateRun u;
+  EXPECT_EQ(u.run(in_function("if (a < b) x = 1; else x = 2;")),
+            "\nif(!(a < b)) goto zzzz_false1;\nx = 1;\ngoto zzzz_skip1;\nzzzz_false1:\nx = 2;\nzzzz_skip1:");
+  EXPECT_EQ(u.messages(), "");
+}
+
+TEST(TranslateStatements, WhileLoopAndBreakToItsFalseLabel) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("while (a) { if (b) break; x = 1; }")),
+            "\nzzzz_cont1:\nif(!(a)) goto zzzz_false1;\nif(!(b)) goto zzzz_false2;\ngoto "
+            "zzzz_false1;\nzzzz_false2:\nx = 1;\ngoto zzzz_cont1;\nzzzz_false1:");
+}
+
+TEST(TranslateStatements, ContinueInsideSwitchInsideWhileJumpsToTheLoop) {
+  TranslateRun t;
+  std::string body = t.run(in_function("while (a) switch (b) { case 1: continue; default: break; }"));
+  EXPECT_EQ(body,
+            "\nzzzz_cont1:\nif(!(a)) goto zzzz_false1;\nswitch(b)\n{\nbreak;\ncase 1:\ngoto "
+            "zzzz_cont1;\nbreak;\ndefault:\nbreak;\n;}\ngoto zzzz_cont1;\nzzzz_false1:");
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, DoLoopUsesItsOwnFalseLabelInTheTest) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("do { if (b) continue; --a; } while (a > 0);")),
+            "\nzzzz_cont2:\nif(!(b)) goto zzzz_false2;\ngoto zzzz_cont1;\nzzzz_false2:\n--a;\n"
+            "zzzz_cont1:\nif(!(a > 0)) goto zzzz_false1;\ngoto zzzz_cont2;\nzzzz_false1:");
+}
+
+TEST(TranslateStatements, DoConditionInJumpFormIsRewrittenToTheLoopExit) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("do x = 1; while (a && b);")),
+            "\nzzzz_cont2:\nx = 1;\nzzzz_cont1:\nif(!(a)) goto zzzz_false1;\nif(!(b)) goto "
+            "zzzz_false1;\ngoto zzzz_cont2;\nzzzz_false1:");
+}
+
+TEST(TranslateStatements, ForWithoutHeadsHasNoTest) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("for (;;) break;")),
+            "\nzzzz_cont2:\ngoto zzzz_false1;\nzzzz_cont1:\ngoto zzzz_cont2;\nzzzz_false1:");
+}
+
+TEST(TranslateStatements, ForWithEveryHead) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("for (a = 0; a < 10; ++a) x = x + a;")),
+            "\na = 0;\nzzzz_cont2:\nif(!(a < 10)) goto zzzz_false1;\nx = x + a;\nzzzz_cont1:\n++a;"
+            "\ngoto zzzz_cont2;\nzzzz_false1:");
+  TranslateRun u;
+  EXPECT_EQ(u.run(in_function("for (; a; ) continue;")),
+            "\nzzzz_cont2:\nif(!(a)) goto zzzz_false1;\ngoto zzzz_cont1;\nzzzz_cont1:\ngoto "
+            "zzzz_cont2;\nzzzz_false1:");
+}
+
+TEST(TranslateStatements, MisplacedBreakAndContinue) {
+  TranslateRun t;
+  t.run(in_function("break;\ncontinue;\nswitch (a) { case 1: continue; }"));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "7 error: illegal placement of break: there is no enclosing while, do, for, or switch statement",
+              "8 error: illegal placement of continue: there is no enclosing while, do, or for statement",
+              "9 error: illegal placement of continue: there is no enclosing while, do, or for statement"}));
+}
+
+TEST(TranslateStatements, ConsecutiveCaseLabelsGetOneBreak) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("switch (a) { case 1: case 2: x = 1; case -3: x = 2; }")),
+            "\nswitch(a)\n{\nbreak;\ncase 1:\ncase 2:\nx = 1;\nbreak;\ncase -3:\nx = 2;\n;}");
+}
+
+TEST(TranslateStatements, CaseLabelForms) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("switch (a) { case 'a': x = 1; case 0x10: x = 2; case 2 * 3 + 1: x = 3; }")),
+            "\nswitch(a)\n{\nbreak;\ncase 'a':\nx = 1;\nbreak;\ncase 0x10:\nx = 2;\nbreak;\ncase "
+            "7:\nx = 3;\n;}");
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, CaseLabelErrors) {
+  TranslateRun t;
+  t.run(in_function("switch (a) {\ncase 1: x = 1;\ncase 1: x = 2;\ncase 1.5: x = 3;\n"
+                    "case 5000000000: x = 4;\ncase red: x = 5;\ndefault: x = 6;\ndefault: x = 7;\n"
+                    "case 4: if (b) case 5: x = 8;\n}\ncase 6: x = 9;\ndefault: x = 10;",
+                    color));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "11 error: duplicate case label: label value '1' must be unique within the switch statement",
+              "12 error: invalid case label: the label value has a floating-point type",
+              "13 error: invalid case label: the label value exceeds the representation limits of type 'unsigned long', which is the largest integral type",
+              "14 error: invalid case label: unless the switch expression is an enumeration variable (it is not) and 'red' is an enumeration constant of that enumeration type, then case label 'red' is invalid",
+              "16 error: duplicate default label: the default label can only occur at most once within the switch statement",
+              "17 error: a case label must appear on a top-level statement within the switch statement",
+              "19 error: a case label can only appear within a switch statement",
+              "20 error: a default label can only appear within a switch statement"}));
+}
+
+TEST(TranslateStatements, EnumerationSwitchCoverage) {
+  const std::string two = "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; }";
+  TranslateRun missing;
+  missing.run(in_function(two, color));
+  EXPECT_EQ(missing.message_list(), (std::vector<std::string>{
+              "11 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
+
+  TranslateRun with_default;
+  EXPECT_EQ(with_default.run(in_function(
+                "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; default: x = 0; }",
+                color)),
+            "\nk = red;\nswitch(k)\n{\nbreak;\ncase red:\nx = 1;\nbreak;\ncase green:\nx = 2;\nbreak;"
+            "\ndefault:\nx = 0;\n;}");
+  EXPECT_EQ(with_default.messages(), "");
+
+  TranslateRun all_three;
+  all_three.run(in_function(
+      "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; case blue: x = 3; }", color));
+  EXPECT_EQ(all_three.messages(), "");
+
+  // case 0 is accepted and does not count as a constant.
+  TranslateRun zero;
+  zero.run(in_function(
+      "enum color k;\nk = red;\nswitch (k) { case 0: x = 0; case red: x = 1; case green: x = 2; }", color));
+  EXPECT_EQ(zero.message_list(), (std::vector<std::string>{
+              "11 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
+}
+
+TEST(TranslateStatements, EnumerationSwitchLabelErrors) {
+  TranslateRun t;
+  t.run(in_function("enum color k;\nk = red;\nswitch (k) {\ncase 1: x = 1;\ncase small: x = 2;\n"
+                    "case red: x = 3;\ncase red: x = 4;\ncase a: x = 5;\ndefault: x = 6;\n}",
+                    color));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "12 error: invalid case label: label '1' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression",
+              "13 error: invalid case label: label 'small' is an enumeration constant, but it does not belong to the enumeration type of the switch expression as required",
+              "15 error: duplicate case label: label 'red' must be unique within the switch statement",
+              "16 error: invalid case label: label 'a' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression"}));
+}
+
+TEST(TranslateStatements, SwitchExpressionMustBeIntegralOrEnumeration) {
+  TranslateRun t;
+  t.run(in_function("double d;\nd = 1.0;\nswitch (d) { default: x = 1; }\nswitch (red) { case 0: x = 2; }",
+                    color));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "11 error: the expression of the switch statement requires an integral or enumeration type"}));
+}
+
+TEST(TranslateStatements, StatementLabelsAndGoto) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("top: x = x + 1;\nif (x < 3) goto top;")),
+            "\ntop:\nx = x + 1;\nif(!(x < 3)) goto zzzz_false1;\ngoto top;\nzzzz_false1:");
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, DuplicateUnreferencedAndUndefinedLabels) {
+  TranslateRun t;
+  t.run(in_function("here: x = 1;\nhere: x = 2;\nthere: x = 3;\ngoto nowhere;\ngoto here;"));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "8 error: statement label 'here' is a duplicate: defined elsewhere in this function",
+              "9 warning: statement label 'there' is unreferenced in this function",
+              "10 error: the goto label 'nowhere' is not defined as a statement label in this function"}));
+  TranslateRun quiet;
+  quiet.options.warning_level = 1;
+  quiet.run(in_function("there: x = 3;"));
+  EXPECT_EQ(quiet.messages(), "");
+  TranslateRun level2;
+  level2.options.warning_level = 2;
+  level2.run(in_function("there: x = 3;"));
+  EXPECT_EQ(level2.message_list(), (std::vector<std::string>{
+              "7 warning: statement label 'there' is unreferenced in this function"}));
+}
+
+TEST(TranslateStatements, ExceptionsRaiseAndReturn) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("if (a) raise 7;\nreturn;\nexception 7: x = 1;\nexception 32000: x = 2;")),
+            "\nif(!(a)) goto zzzz_false1;\nzzzz_exception = 7;\ngoto zzzz_finish;\nzzzz_false1:\ngoto "
+            "zzzz_finish;\nzzzz_exception7:\nx = 1;\nzzzz_exception32000:\nx = 2;");
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, ExceptionNumberChecksAndDuplicates) {
+  TranslateRun t;
+  t.run(in_function("raise 0;\nraise 32001;\nexception 5: x = 1;\nexception 5: x = 2;\nexception 0: x = 3;"));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "7 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid",
+              "8 error: an exception number must be between 1 and 32000 inclusive: number '32001' is invalid",
+              "10 error: duplicate : the function has more than a single handler defined for exception 5",
+              "11 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid"}));
+  // Handlers for one number in two functions are fine.
+  TranslateRun two;
+  two.run("f();\ng();\nf()\n{\nexception 5: ;\n}\ng()\n{\nexception 5: ;\n}\n");
+  EXPECT_EQ(two.messages(), "");
+}
+
+TEST(TranslateStatements, ControlExpressionClassIsChecked) {
+  TranslateRun t;
+  t.run(in_function("int v[3];\nif (v) x = 1;\nwhile (red) x = 2;", color));
+  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
+              "10 error: the control expression cannot be a space, the required type is scalar"}));
+}
+
+TEST(TranslateStatements, LabelBeforeTheFunctionEndAndPrefix) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("if (a) x = 1;"), "q"), "\nif(!(a)) goto qq_false1;\nx = 1;\nqq_false1:");
+}
+
+TEST(TranslateStatements, NestedStatementsLeaveTheStackEmpty) {
+  TranslateRun t;
+  t.run(in_function("{ if (a) { while (b) { x = 1; } } else x = 2; }\nfor (a = 0; a < 2; a++) { x = a; }"));
+  EXPECT_EQ(t.stack_left, 0);
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, SyntaxErrorsKeepTheStackInShape) {
+  TranslateRun t;
+  t.run(in_function("if (a x = 1;\nwhile () ;\nfor (a = ; ; ) x = 1;\ndo x = 2; while (a)\nx = 3;"));
+  EXPECT_EQ(t.stack_left, 0);
+  EXPECT_NE(t.messages().find("syntax error"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ycc::testing
