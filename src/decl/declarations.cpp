@@ -55,8 +55,13 @@ int clamp_int(long long v) {
 
 }  // namespace
 
-Declarations::Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens)
-    : options_(options), diag_(diag), tokens_(tokens) {}
+Declarations::Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens,
+                           Workspace& ws)
+    : options_(options),
+      diag_(diag),
+      tokens_(tokens),
+      ws_(ws),
+      emit_(symbols_, ws, options.prefix.empty() ? std::string("zz") : options.prefix) {}
 
 void Declarations::error(int line, int sub, int bit, const std::string& text) {
   diag_.error(line, text);
@@ -366,12 +371,20 @@ void Declarations::join_vf_list(int member, int structure) {
 }
 
 void Declarations::complete_declarator(const Token* name, bool initialized) {
+  if (decls_.empty()) return;
+  check_declarator(name, initialized);
+  // A parameter or return declaration has exactly one declarator and no ";".
+  if (in_list(decls_.back().ctx)) decls_.pop_back();
+}
+
+void Declarations::check_declarator(const Token* name, bool initialized) {
   DeclState& d = decl();
   int sub = d.current;
   if (!sub) return;
   if (!name) symbols_.make_anonymous(sub);
   int line = name ? name->line : d.line;
   Symbol* s = &symbols_[sub];
+  s->line = line;
 
   // Name class and owner follow from where the declaration stands.
   switch (d.ctx) {
@@ -606,12 +619,26 @@ void Declarations::end_declaration(DeclContext ctx, const Token&) {
   if (!d.entry_used && d.entry == symbols_.count() - 1 && !d.spec_errors &&
       symbols_[d.entry].error_flags == 0)
     symbols_.drop_last();
+  int last = symbols_.count();
   if (ctx == DeclContext::External) {
     bool clean = true;
-    int last = symbols_.count();
     for (int sub = std::min(d.entry, last); sub < last; ++sub)
       if (symbols_[sub].error_flags) clean = false;
     if (clean && (d.entry_used || d.tag)) declared_anything_ = true;
+    if (d.entry < last) emit_.external_declaration(d.entry);
+  } else if (ctx == DeclContext::Block) {
+    for (int sub = std::min(d.entry, last); sub < last; ++sub)
+      if (symbols_[sub].name_class != 'c' && symbols_[sub].name_class != 'i')
+        emit_.local_declaration(sub, symbols_.depth() >= 2);
+  }
+}
+
+void Declarations::report_unreferenced(int first) {
+  for (int sub = first; sub < symbols_.count(); ++sub) {
+    const Symbol& s = symbols_[sub];
+    if (s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n' || s.ref_count != 0) continue;
+    if ((s.storage & STORAGE_EXTERN) || s.anonymous()) continue;
+    diag_.warning(s.line, strf("'%s' : unreferenced local variable", s.name.c_str()), 2);
   }
 }
 
@@ -701,21 +728,38 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
   } else if (is_definition) {
     error(line, sub, ERR_FUNCTION, strf("function '%s' is missing its prototype", n.c_str()));
   }
-  if (symbols_[sub].error_flags == 0) declared_anything_ = true;
+  if (symbols_[sub].error_flags == 0) {
+    declared_anything_ = true;
+    emit_.function_heading(sub, is_definition);
+  }
   if (is_definition) function_ = sub;
 }
 
-void Declarations::open_function_body(const Token&, const FunctionLabels&) {}
+void Declarations::open_function_body(const Token&, const FunctionLabels&) {
+  if (function_ && symbols_[function_].error_flags == 0) ws_.open_function_body();
+}
 
 void Declarations::close_function_body(const Token&) {
+  int first = symbols_.depth() > 0 ? symbols_.block_first(symbols_.depth()) : symbols_.count();
+  report_unreferenced(first);
+  if (function_ && symbols_[function_].error_flags == 0) emit_.function_closing(function_);
   symbols_.leave_block();
   if (!functions_.empty()) functions_.pop_back();
   function_ = 0;
 }
 
-void Declarations::open_block(const Token&) { symbols_.enter_block(); }
+void Declarations::open_block(const Token&) {
+  symbols_.enter_block();
+  ws_.push_block(symbols_.count());
+}
 
-void Declarations::close_block(const Token&) { symbols_.leave_block(); }
+void Declarations::close_block(const Token&) {
+  int first = symbols_.block_first(symbols_.depth());
+  emit_.free_block_varspaces(first);
+  report_unreferenced(first);
+  if (ws_.pop_block()) ws_.put_text('n', "\n}");
+  symbols_.leave_block();
+}
 
 // ---- constant expressions -------------------------------------------------------
 

@@ -9,16 +9,18 @@
 
 #include "common/options.h"
 #include "decl/constants.h"
+#include "decl/emit.h"
 #include "decl/symbol_table.h"
 #include "diag/diagnostics.h"
 #include "front/actions.h"
 #include "front/lexer.h"
+#include "front/workspace.h"
 
 namespace ycc {
 
 class Declarations : public Actions {
  public:
-  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens);
+  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens, Workspace& ws);
 
   SymbolTable& symbols() { return symbols_; }
   // The largest dimension count met in the file.
@@ -87,6 +89,8 @@ class Declarations : public Actions {
   };
 
   void error(int line, int sub, int bit, const std::string& text);
+  // The checks of a complete declarator, in their fixed order.
+  void check_declarator(const Token* name, bool initialized);
   Folded pop_constant();
   DeclState& decl() { return decls_.back(); }
   int new_declarator_entry(DeclState& d);
@@ -95,11 +99,15 @@ class Declarations : public Actions {
   bool type_is_struct(int type_sym, int* tag = nullptr) const;
   int resolve_type(int type_sym) const;
   const char* list_name() const;
+  // Warns of the block's ordinary locals that were never referenced.
+  void report_unreferenced(int first);
 
   const Options& options_;
   Diagnostics& diag_;
   const TokenBuffer& tokens_;
+  Workspace& ws_;
   SymbolTable symbols_;
+  Emitter emit_;
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;

@@ -55,6 +55,8 @@ struct Symbol {
   char complete = 'y';      // 'n' for a tag named ahead of its body
   int ref_count = 0;
   int resize_count = 0;
+  int initial_occurs = 0;   // elements an initializer filled (one-dimensional fixed-spaces)
+  int line = 0;             // where the entry was declared
 
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }

@@ -8,7 +8,7 @@
 namespace ycc {
 
 void run_start_rule(ParseContext& ctx) {
-  Declarations actions(ctx.options, ctx.diag, ctx.tokens);
+  Declarations actions(ctx.options, ctx.diag, ctx.tokens, ctx.workspace);
   struct DumpAtEnd {
     ParseContext& ctx;
     Declarations& actions;
