@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "common/text.h"
+#include "decl/functions.h"
 #include "decl/library_table.h"
 #include "decl/type_keywords.h"
 
@@ -724,6 +725,9 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
                      : strf("redefinition of function prototype '%s'", n.c_str()));
     } else if (k == 'f') {
       error(line, sub, ERR_FUNCTION, strf("redefinition of function '%s'", n.c_str()));
+    } else {
+      for (const std::string& m : compare_with_prototype(symbols_, sub, other))
+        error(line, sub, ERR_FUNCTION, m);
     }
   } else if (is_definition) {
     error(line, sub, ERR_FUNCTION, strf("function '%s' is missing its prototype", n.c_str()));
