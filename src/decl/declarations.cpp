@@ -1,6 +1,7 @@
 #include "decl/declarations.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cmath>
 
@@ -582,6 +583,11 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
   }
   s = &symbols_[sub];
 
+  // The initializer is walked against the declaration it completes.
+  if (initialized && symbols_[sub].error_flags == 0)
+    symbols_[sub].init_text = check_initializer(symbols_, diag_, emit_, sub, init_items_);
+  s = &symbols_[sub];
+
   // 12. External varspaces without resize information.
   if (s->is_var == 'y' && (s->storage & STORAGE_EXTERN) && s->name[0] != '_' && s->resize_count == 0 &&
       s->dim_count() > 0)
@@ -765,6 +771,93 @@ void Declarations::close_block(const Token&) {
   symbols_.leave_block();
 }
 
+// ---- initializers ----------------------------------------------------------------
+
+void Declarations::begin_initializer(const Token&) {
+  init_items_.clear();
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
+
+void Declarations::initializer_open_brace(const Token& t) {
+  InitItem item{'{', "{", "{"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_close_brace(const Token& t) {
+  InitItem item{'}', "}", "}"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_identifier(const Token& name, const Token* sign) {
+  InitItem item{'i', std::string(name.text), std::string(name.text)};
+  item.line = name.line;
+  if (sign) {
+    item.sign = sign->text[0];
+    item.text = std::string(sign->text) + item.text;
+  }
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_constant(const Token& first) {
+  Folded f = pop_constant();
+  InitItem item{'d', "", ""};
+  item.line = first.line;
+  bool plain = last_literal_ && (const_ops_ == 0 || (const_ops_ == 1 && literal_sign_));
+  if (plain) {
+    const Token& lit = *last_literal_;
+    std::string text(lit.text);
+    item.sign = literal_sign_;
+    std::string sign = literal_sign_ ? std::string(1, literal_sign_) : "";
+    item.text = sign + text;
+    switch (lit.tok) {
+      case T_STRING:
+        item.kind = 's';
+        item.c_text = last_string_c_text_;
+        item.length = last_string_length_;
+        break;
+      case T_CHARACTER: {
+        item.kind = 'c';
+        item.value = last_char_value_;
+        item.c_text = sign + last_char_c_text_;
+        break;
+      }
+      case T_FLOATONE:
+      case T_FLOATTWO: {
+        item.kind = 'f';
+        errno = 0;
+        item.value = std::strtod(text.c_str(), nullptr);
+        item.overflow = errno == ERANGE && std::isinf(item.value);
+        item.c_text = sign + text;
+        break;
+      }
+      default: {
+        item.kind = lit.tok == T_HEXADECIMAL ? 'x' : 'd';
+        errno = 0;
+        unsigned long long u = std::strtoull(text.c_str(), nullptr, item.kind == 'x' ? 16 : 10);
+        item.overflow = errno == ERANGE || u > 4294967295ULL;
+        item.value = static_cast<double>(u);
+        item.c_text = sign + text;
+        break;
+      }
+    }
+    if (literal_sign_ == '-') item.value = -item.value;
+  } else {
+    // A computed constant: its folded value stands for the item.
+    item.kind = f.kind;
+    item.text = format_constant(f, diag_, first.line);
+    item.c_text = item.text;
+    item.value = f.converted ? f.value : std::strtod(item.text.c_str(), nullptr);
+  }
+  init_items_.push_back(item);
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
+
 // ---- constant expressions -------------------------------------------------------
 
 Folded Declarations::pop_constant() {
@@ -775,6 +868,7 @@ Folded Declarations::pop_constant() {
 }
 
 void Declarations::const_literal(const Token& t) {
+  last_literal_ = &t;
   switch (t.tok) {
     case T_DECIMALINT: constants_.push_back(Folded::literal('d', t.text)); break;
     case T_HEXADECIMAL: constants_.push_back(Folded::literal('x', t.text)); break;
@@ -782,6 +876,8 @@ void Declarations::const_literal(const Token& t) {
     case T_FLOATTWO: constants_.push_back(Folded::literal('f', t.text)); break;
     case T_CHARACTER: {
       CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      last_char_value_ = c.value;
+      last_char_c_text_ = c.c_text;
       Folded f = Folded::literal('d', std::to_string(c.value < 0 ? -c.value : c.value));
       f.negative = c.value < 0;
       constants_.push_back(f);
@@ -789,7 +885,9 @@ void Declarations::const_literal(const Token& t) {
     }
     default: {
       // A string has no arithmetic value; it folds as 1 like any faulty operand.
-      check_string_constant(t.text, diag_, t.line);
+      StringConstant sc = check_string_constant(t.text, diag_, t.line);
+      last_string_c_text_ = sc.c_text;
+      last_string_length_ = sc.length;
       constants_.push_back(Folded::literal('d', "1"));
       break;
     }
@@ -797,10 +895,13 @@ void Declarations::const_literal(const Token& t) {
 }
 
 void Declarations::const_unary(const Token& op) {
+  if (const_ops_ == 0 && last_literal_) literal_sign_ = op.text[0];
+  ++const_ops_;
   if (op.tok == T_MINUS) constants_.push_back(fold_negate(pop_constant()));
 }
 
 void Declarations::const_binary(const Token& op) {
+  const_ops_ += 2;
   Folded b = pop_constant();
   Folded a = pop_constant();
   constants_.push_back(fold_binary(op.text.empty() ? '+' : op.text[0], a, b, diag_, op.line));

@@ -10,6 +10,7 @@
 #include "common/options.h"
 #include "decl/constants.h"
 #include "decl/emit.h"
+#include "decl/initializers.h"
 #include "decl/symbol_table.h"
 #include "diag/diagnostics.h"
 #include "front/actions.h"
@@ -59,6 +60,12 @@ class Declarations : public Actions {
   void close_function_body(const Token& rbrace) override;
   void open_block(const Token& lbrace) override;
   void close_block(const Token& rbrace) override;
+
+  void begin_initializer(const Token& equal) override;
+  void initializer_open_brace(const Token& t) override;
+  void initializer_close_brace(const Token& t) override;
+  void initializer_identifier(const Token& name, const Token* sign) override;
+  void initializer_constant(const Token& first) override;
 
   void const_literal(const Token& t) override;
   void const_unary(const Token& op) override;
@@ -111,6 +118,16 @@ class Declarations : public Actions {
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;
+  // The items of the initializer being read, and what the constant
+  // expression of the current item was made of.
+  std::vector<InitItem> init_items_;
+  const Token* last_literal_ = nullptr;
+  int const_ops_ = 0;
+  char literal_sign_ = 0;
+  std::string last_string_c_text_;
+  std::string last_char_c_text_;
+  int last_char_value_ = 0;
+  int last_string_length_ = 0;
   std::vector<int> tags_;          // structures and enumerations whose bodies are open
   int max_dims_ = 0;
   bool declared_anything_ = false;

@@ -84,6 +84,7 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
   for (const Dimension& d : s.dims)
     t += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
   (void)local;
+  if (!s.init_text.empty() && !member) t += " = " + s.init_text;
   return t + ";";
 }
 

@@ -57,6 +57,7 @@ struct Symbol {
   int resize_count = 0;
   int initial_occurs = 0;   // elements an initializer filled (one-dimensional fixed-spaces)
   int line = 0;             // where the entry was declared
+  std::string init_text;    // the C text of its initializer, when it has one
 
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }
