@@ -151,6 +151,7 @@ void Declarations::use_tag(TagKind kind, const Token& tag) {
   DeclState& d = decl();
   std::string n(tag.text);
   d.had_tag = true;
+  d.tag_kind = tag_kind_char(kind);
   if (d.type_bits || d.type_sym) {
     error(tag.line, d.entry, ERR_TYPE, strf("%s cannot be mixed with other type specifiers", tag_word(kind)));
     d.spec_errors |= ERR_TYPE;
@@ -182,6 +183,7 @@ void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, 
   DeclState& d = decl();
   int line = tag ? tag->line : at.line;
   int earlier = tag ? symbols_.find_in_scope('g', SymbolTable::stored_name(tag->text)) : 0;
+  d.tag_kind = tag_kind_char(kind);
   if (!has_body) {
     // "struct s;" names a tag ahead of its body; naming it again is harmless.
     d.had_tag = true;
@@ -293,6 +295,7 @@ void Declarations::add_dimension(bool has_size, const Token& lbracket) {
     if (bad && sub) symbols_[sub].error_flags |= ERR_SPACE;
     if (v == 0) error(lbracket.line, sub, ERR_SPACE, "[0] is an invalid dimension size");
     dim.size = clamp_int(v);
+    dim.written_empty = false;
   }
   if (!sub) return;
   symbols_[sub].dims.push_back(dim);
@@ -554,7 +557,7 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
   // 10. Empty sizes of fixed-spaces.
   if (s->is_var == 'n' && s->dim_count() > 0) {
     int empty = static_cast<int>(
-        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.size == 0; }));
+        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.written_empty; }));
     bool is_extern = s->storage & STORAGE_EXTERN;
     bool allowed = s->p_or_r == 'p' || s->p_or_r == 'a' || s->p_or_r == 'b' || initialized || is_extern;
     if (empty > 0 && !allowed)
@@ -600,21 +603,20 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
 
 void Declarations::complete_tag_only_declaration(const Token& semicolon) {
   DeclState& d = decl();
-  int sub = d.tag;
-  if (!sub || symbols_[sub].complete == 'n') {
-    // "struct s;" names a tag; specifier errors have said enough.
-    if (d.type_sym || d.had_tag || d.spec_errors) return;
-    error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
+  if (!d.had_tag && !d.tag) {
+    // Specifier errors have said enough.
+    if (!d.spec_errors) error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
     return;
   }
-  Symbol& s = symbols_[sub];
-  if (s.error_flags) return;
-  const char* word = s.name_is == 's' ? "struct" : s.name_is == 'e' ? "enum" : "fun";
+  // Only a tag this declaration made itself takes the error bit.
+  int sub = d.tag && symbols_[d.tag].complete == 'y' ? d.tag : 0;
+  if (sub && symbols_[sub].error_flags) return;
+  const char* word = d.tag_kind == 's' ? "struct" : d.tag_kind == 'e' ? "enum" : "fun";
   if (d.storage & STORAGE_EXTERN)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'extern'", word));
   if (d.storage & STORAGE_STATIC)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'static'", word));
-  if (symbols_[sub].anonymous())
+  if (sub && symbols_[sub].anonymous())
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration requires a type name", word));
 }
 

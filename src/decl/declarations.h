@@ -85,6 +85,7 @@ class Declarations : public Actions {
     int tag = 0;              // a tag declared with a body here
     bool any_declarator = false;
     bool had_tag = false;
+    char tag_kind = 's';
     int line = 0;
   };
   // A function, prototype or fun type whose lists are being read.

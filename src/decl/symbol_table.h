@@ -28,6 +28,7 @@ struct Dimension {
   int size = 0;          // 0 for an empty size "[]"
   int resize_num = -1;   // -1: not given
   int resize_pct = -1;
+  bool written_empty = true;  // "[]": the size comes from an initializer or elsewhere
 };
 
 struct Symbol {
