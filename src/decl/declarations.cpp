@@ -243,8 +243,11 @@ void Declarations::enumerator(const Token& name) {
 
 void Declarations::end_tag_body(TagKind kind, const Token&) {
   if (kind == TagKind::Fun) {
-    if (!functions_.empty()) functions_.pop_back();
+    if (functions_.empty()) return;
+    symbols_[functions_.back().entry].body_end = symbols_.count();
+    functions_.pop_back();
   } else if (!tags_.empty()) {
+    symbols_[tags_.back()].body_end = symbols_.count();
     tags_.pop_back();
   }
 }
@@ -720,9 +723,7 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
   int line = name.line;
   std::string n = s.name;
   // Another entry of the same name anywhere in the table.
-  int other = 0;
-  for (int i = sub - 1; i >= 1 && !other; --i)
-    if (symbols_[i].name_class == 'o' && symbols_[i].name == n) other = i;
+  int other = symbols_.find_other('o', n, sub);
   if (other) {
     char k = symbols_[other].name_is;
     if (k != 'f' && k != 'd') {

@@ -11,6 +11,11 @@ std::string Emitter::generated(const char* word, int number) const {
                      : strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);
 }
 
+int Emitter::body_end(int sub) const {
+  int end = symbols_[sub].body_end;
+  return end > sub && end <= symbols_.count() ? end : symbols_.count();
+}
+
 std::string Emitter::companion_name(int sub) const {
   return prefix_ + "_" + symbols_[sub].name;
 }
@@ -112,7 +117,7 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
 void Emitter::emit_struct(int sub) {
   ws_.put_text('n', "\nstruct " + tag_name(sub) + " {");
   ws_.indent_in();
-  for (int m = sub + 1; m < symbols_.count(); ++m) {
+  for (int m = sub + 1; m < body_end(sub); ++m) {
     const Symbol& s = symbols_[m];
     if (s.owner != sub || s.name_class != 'c') continue;
     ws_.put_text('y', variable_text(m, true, false));
@@ -128,7 +133,7 @@ void Emitter::emit_enum(int sub) {
   // The constants are numbered from 1: 0 stays free as the "no value" of every enumeration.
   int number = 0;
   std::string pending;
-  for (int c = sub + 1; c < symbols_.count(); ++c) {
+  for (int c = sub + 1; c < body_end(sub); ++c) {
     const Symbol& s = symbols_[c];
     if (s.owner != sub || s.name_is != 'c') continue;
     if (!pending.empty()) ws_.put_text('y', pending + ",");
@@ -146,7 +151,7 @@ void Emitter::emit_tag(int sub) {
   const Symbol& s = symbols_[sub];
   if (s.error_flags || s.complete == 'n') return;
   // Tags declared inside a structure's body stand before it in C.
-  for (int inner = sub + 1; inner < symbols_.count(); ++inner)
+  for (int inner = sub + 1; inner < body_end(sub); ++inner)
     if (symbols_[inner].owner == sub && symbols_[inner].name_class == 'g') emit_tag(inner);
   if (s.name_is == 's') emit_struct(sub);
   if (s.name_is == 'e') emit_enum(sub);

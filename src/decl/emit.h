@@ -52,6 +52,8 @@ class Emitter {
   void walk_member(int member, const std::string& container, bool free, std::string& out, int depth);
   std::string loop_counter(int depth);
   std::string companion_name(int sub) const;
+  // Where the members of a tag end.
+  int body_end(int sub) const;
   bool is_space(int sub) const { return symbols_[sub].dim_count() > 0; }
   int resolve(int type_sym) const;
 
