@@ -1,10 +1,12 @@
 #include "decl/declarations.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cmath>
 
 #include "common/text.h"
+#include "decl/functions.h"
 #include "decl/library_table.h"
 #include "decl/type_keywords.h"
 
@@ -55,8 +57,13 @@ int clamp_int(long long v) {
 
 }  // namespace
 
-Declarations::Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens)
-    : options_(options), diag_(diag), tokens_(tokens) {}
+Declarations::Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens,
+                           Workspace& ws)
+    : options_(options),
+      diag_(diag),
+      tokens_(tokens),
+      ws_(ws),
+      emit_(symbols_, ws, options.prefix.empty() ? std::string("zz") : options.prefix) {}
 
 void Declarations::error(int line, int sub, int bit, const std::string& text) {
   diag_.error(line, text);
@@ -144,6 +151,7 @@ void Declarations::use_tag(TagKind kind, const Token& tag) {
   DeclState& d = decl();
   std::string n(tag.text);
   d.had_tag = true;
+  d.tag_kind = tag_kind_char(kind);
   if (d.type_bits || d.type_sym) {
     error(tag.line, d.entry, ERR_TYPE, strf("%s cannot be mixed with other type specifiers", tag_word(kind)));
     d.spec_errors |= ERR_TYPE;
@@ -175,6 +183,7 @@ void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, 
   DeclState& d = decl();
   int line = tag ? tag->line : at.line;
   int earlier = tag ? symbols_.find_in_scope('g', SymbolTable::stored_name(tag->text)) : 0;
+  d.tag_kind = tag_kind_char(kind);
   if (!has_body) {
     // "struct s;" names a tag ahead of its body; naming it again is harmless.
     d.had_tag = true;
@@ -234,8 +243,11 @@ void Declarations::enumerator(const Token& name) {
 
 void Declarations::end_tag_body(TagKind kind, const Token&) {
   if (kind == TagKind::Fun) {
-    if (!functions_.empty()) functions_.pop_back();
+    if (functions_.empty()) return;
+    symbols_[functions_.back().entry].body_end = symbols_.count();
+    functions_.pop_back();
   } else if (!tags_.empty()) {
+    symbols_[tags_.back()].body_end = symbols_.count();
     tags_.pop_back();
   }
 }
@@ -286,6 +298,7 @@ void Declarations::add_dimension(bool has_size, const Token& lbracket) {
     if (bad && sub) symbols_[sub].error_flags |= ERR_SPACE;
     if (v == 0) error(lbracket.line, sub, ERR_SPACE, "[0] is an invalid dimension size");
     dim.size = clamp_int(v);
+    dim.written_empty = false;
   }
   if (!sub) return;
   symbols_[sub].dims.push_back(dim);
@@ -366,12 +379,20 @@ void Declarations::join_vf_list(int member, int structure) {
 }
 
 void Declarations::complete_declarator(const Token* name, bool initialized) {
+  if (decls_.empty()) return;
+  check_declarator(name, initialized);
+  // A parameter or return declaration has exactly one declarator and no ";".
+  if (in_list(decls_.back().ctx)) decls_.pop_back();
+}
+
+void Declarations::check_declarator(const Token* name, bool initialized) {
   DeclState& d = decl();
   int sub = d.current;
   if (!sub) return;
   if (!name) symbols_.make_anonymous(sub);
   int line = name ? name->line : d.line;
   Symbol* s = &symbols_[sub];
+  s->line = line;
 
   // Name class and owner follow from where the declaration stands.
   switch (d.ctx) {
@@ -539,7 +560,7 @@ void Declarations::complete_declarator(const Token* name, bool initialized) {
   // 10. Empty sizes of fixed-spaces.
   if (s->is_var == 'n' && s->dim_count() > 0) {
     int empty = static_cast<int>(
-        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.size == 0; }));
+        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.written_empty; }));
     bool is_extern = s->storage & STORAGE_EXTERN;
     bool allowed = s->p_or_r == 'p' || s->p_or_r == 'a' || s->p_or_r == 'b' || initialized || is_extern;
     if (empty > 0 && !allowed)
@@ -568,6 +589,11 @@ void Declarations::complete_declarator(const Token* name, bool initialized) {
   }
   s = &symbols_[sub];
 
+  // The initializer is walked against the declaration it completes.
+  if (initialized && symbols_[sub].error_flags == 0)
+    symbols_[sub].init_text = check_initializer(symbols_, diag_, emit_, sub, init_items_);
+  s = &symbols_[sub];
+
   // 12. External varspaces without resize information.
   if (s->is_var == 'y' && (s->storage & STORAGE_EXTERN) && s->name[0] != '_' && s->resize_count == 0 &&
       s->dim_count() > 0)
@@ -580,21 +606,20 @@ void Declarations::complete_declarator(const Token* name, bool initialized) {
 
 void Declarations::complete_tag_only_declaration(const Token& semicolon) {
   DeclState& d = decl();
-  int sub = d.tag;
-  if (!sub || symbols_[sub].complete == 'n') {
-    // "struct s;" names a tag; specifier errors have said enough.
-    if (d.type_sym || d.had_tag || d.spec_errors) return;
-    error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
+  if (!d.had_tag && !d.tag) {
+    // Specifier errors have said enough.
+    if (!d.spec_errors) error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
     return;
   }
-  Symbol& s = symbols_[sub];
-  if (s.error_flags) return;
-  const char* word = s.name_is == 's' ? "struct" : s.name_is == 'e' ? "enum" : "fun";
+  // Only a tag this declaration made itself takes the error bit.
+  int sub = d.tag && symbols_[d.tag].complete == 'y' ? d.tag : 0;
+  if (sub && symbols_[sub].error_flags) return;
+  const char* word = d.tag_kind == 's' ? "struct" : d.tag_kind == 'e' ? "enum" : "fun";
   if (d.storage & STORAGE_EXTERN)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'extern'", word));
   if (d.storage & STORAGE_STATIC)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'static'", word));
-  if (symbols_[sub].anonymous())
+  if (sub && symbols_[sub].anonymous())
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration requires a type name", word));
 }
 
@@ -606,12 +631,26 @@ void Declarations::end_declaration(DeclContext ctx, const Token&) {
   if (!d.entry_used && d.entry == symbols_.count() - 1 && !d.spec_errors &&
       symbols_[d.entry].error_flags == 0)
     symbols_.drop_last();
+  int last = symbols_.count();
   if (ctx == DeclContext::External) {
     bool clean = true;
-    int last = symbols_.count();
     for (int sub = std::min(d.entry, last); sub < last; ++sub)
       if (symbols_[sub].error_flags) clean = false;
     if (clean && (d.entry_used || d.tag)) declared_anything_ = true;
+    if (d.entry < last) emit_.external_declaration(d.entry);
+  } else if (ctx == DeclContext::Block) {
+    for (int sub = std::min(d.entry, last); sub < last; ++sub)
+      if (symbols_[sub].name_class != 'c' && symbols_[sub].name_class != 'i')
+        emit_.local_declaration(sub, symbols_.depth() >= 2);
+  }
+}
+
+void Declarations::report_unreferenced(int first) {
+  for (int sub = first; sub < symbols_.count(); ++sub) {
+    const Symbol& s = symbols_[sub];
+    if (s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n' || s.ref_count != 0) continue;
+    if ((s.storage & STORAGE_EXTERN) || s.anonymous()) continue;
+    diag_.warning(s.line, strf("'%s' : unreferenced local variable", s.name.c_str()), 2);
   }
 }
 
@@ -684,9 +723,7 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
   int line = name.line;
   std::string n = s.name;
   // Another entry of the same name anywhere in the table.
-  int other = 0;
-  for (int i = sub - 1; i >= 1 && !other; --i)
-    if (symbols_[i].name_class == 'o' && symbols_[i].name == n) other = i;
+  int other = symbols_.find_other('o', n, sub);
   if (other) {
     char k = symbols_[other].name_is;
     if (k != 'f' && k != 'd') {
@@ -697,25 +734,132 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
                      : strf("redefinition of function prototype '%s'", n.c_str()));
     } else if (k == 'f') {
       error(line, sub, ERR_FUNCTION, strf("redefinition of function '%s'", n.c_str()));
+    } else {
+      for (const std::string& m : compare_with_prototype(symbols_, sub, other))
+        error(line, sub, ERR_FUNCTION, m);
     }
   } else if (is_definition) {
     error(line, sub, ERR_FUNCTION, strf("function '%s' is missing its prototype", n.c_str()));
   }
-  if (symbols_[sub].error_flags == 0) declared_anything_ = true;
+  if (symbols_[sub].error_flags == 0) {
+    declared_anything_ = true;
+    emit_.function_heading(sub, is_definition);
+  }
   if (is_definition) function_ = sub;
 }
 
-void Declarations::open_function_body(const Token&, const FunctionLabels&) {}
+void Declarations::open_function_body(const Token&, const FunctionLabels&) {
+  if (function_ && symbols_[function_].error_flags == 0) ws_.open_function_body();
+}
 
 void Declarations::close_function_body(const Token&) {
+  int first = symbols_.depth() > 0 ? symbols_.block_first(symbols_.depth()) : symbols_.count();
+  report_unreferenced(first);
+  if (function_ && symbols_[function_].error_flags == 0) emit_.function_closing(function_);
   symbols_.leave_block();
   if (!functions_.empty()) functions_.pop_back();
   function_ = 0;
 }
 
-void Declarations::open_block(const Token&) { symbols_.enter_block(); }
+void Declarations::open_block(const Token&) {
+  symbols_.enter_block();
+  ws_.push_block(symbols_.count());
+}
 
-void Declarations::close_block(const Token&) { symbols_.leave_block(); }
+void Declarations::close_block(const Token&) {
+  int first = symbols_.block_first(symbols_.depth());
+  emit_.free_block_varspaces(first);
+  report_unreferenced(first);
+  if (ws_.pop_block()) ws_.put_text('n', "\n}");
+  symbols_.leave_block();
+}
+
+// ---- initializers ----------------------------------------------------------------
+
+void Declarations::begin_initializer(const Token&) {
+  init_items_.clear();
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
+
+void Declarations::initializer_open_brace(const Token& t) {
+  InitItem item{'{', "{", "{"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_close_brace(const Token& t) {
+  InitItem item{'}', "}", "}"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_identifier(const Token& name, const Token* sign) {
+  InitItem item{'i', std::string(name.text), std::string(name.text)};
+  item.line = name.line;
+  if (sign) {
+    item.sign = sign->text[0];
+    item.text = std::string(sign->text) + item.text;
+  }
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_constant(const Token& first) {
+  Folded f = pop_constant();
+  InitItem item{'d', "", ""};
+  item.line = first.line;
+  bool plain = last_literal_ && (const_ops_ == 0 || (const_ops_ == 1 && literal_sign_));
+  if (plain) {
+    const Token& lit = *last_literal_;
+    std::string text(lit.text);
+    item.sign = literal_sign_;
+    std::string sign = literal_sign_ ? std::string(1, literal_sign_) : "";
+    item.text = sign + text;
+    switch (lit.tok) {
+      case T_STRING:
+        item.kind = 's';
+        item.c_text = last_string_c_text_;
+        item.length = last_string_length_;
+        break;
+      case T_CHARACTER: {
+        item.kind = 'c';
+        item.value = last_char_value_;
+        item.c_text = sign + last_char_c_text_;
+        break;
+      }
+      case T_FLOATONE:
+      case T_FLOATTWO: {
+        item.kind = 'f';
+        errno = 0;
+        item.value = std::strtod(text.c_str(), nullptr);
+        item.overflow = errno == ERANGE && std::isinf(item.value);
+        item.c_text = sign + text;
+        break;
+      }
+      default: {
+        item.kind = lit.tok == T_HEXADECIMAL ? 'x' : 'd';
+        errno = 0;
+        unsigned long long u = std::strtoull(text.c_str(), nullptr, item.kind == 'x' ? 16 : 10);
+        item.overflow = errno == ERANGE || u > 4294967295ULL;
+        item.value = static_cast<double>(u);
+        item.c_text = sign + text;
+        break;
+      }
+    }
+    if (literal_sign_ == '-') item.value = -item.value;
+  } else {
+    // A computed constant: its folded value stands for the item.
+    item.kind = f.kind;
+    item.text = format_constant(f, diag_, first.line);
+    item.c_text = item.text;
+    item.value = f.converted ? f.value : std::strtod(item.text.c_str(), nullptr);
+  }
+  init_items_.push_back(item);
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
 
 // ---- constant expressions -------------------------------------------------------
 
@@ -727,6 +871,7 @@ Folded Declarations::pop_constant() {
 }
 
 void Declarations::const_literal(const Token& t) {
+  last_literal_ = &t;
   switch (t.tok) {
     case T_DECIMALINT: constants_.push_back(Folded::literal('d', t.text)); break;
     case T_HEXADECIMAL: constants_.push_back(Folded::literal('x', t.text)); break;
@@ -734,6 +879,8 @@ void Declarations::const_literal(const Token& t) {
     case T_FLOATTWO: constants_.push_back(Folded::literal('f', t.text)); break;
     case T_CHARACTER: {
       CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      last_char_value_ = c.value;
+      last_char_c_text_ = c.c_text;
       Folded f = Folded::literal('d', std::to_string(c.value < 0 ? -c.value : c.value));
       f.negative = c.value < 0;
       constants_.push_back(f);
@@ -741,7 +888,9 @@ void Declarations::const_literal(const Token& t) {
     }
     default: {
       // A string has no arithmetic value; it folds as 1 like any faulty operand.
-      check_string_constant(t.text, diag_, t.line);
+      StringConstant sc = check_string_constant(t.text, diag_, t.line);
+      last_string_c_text_ = sc.c_text;
+      last_string_length_ = sc.length;
       constants_.push_back(Folded::literal('d', "1"));
       break;
     }
@@ -749,10 +898,13 @@ void Declarations::const_literal(const Token& t) {
 }
 
 void Declarations::const_unary(const Token& op) {
+  if (const_ops_ == 0 && last_literal_) literal_sign_ = op.text[0];
+  ++const_ops_;
   if (op.tok == T_MINUS) constants_.push_back(fold_negate(pop_constant()));
 }
 
 void Declarations::const_binary(const Token& op) {
+  const_ops_ += 2;
   Folded b = pop_constant();
   Folded a = pop_constant();
   constants_.push_back(fold_binary(op.text.empty() ? '+' : op.text[0], a, b, diag_, op.line));

@@ -9,16 +9,19 @@
 
 #include "common/options.h"
 #include "decl/constants.h"
+#include "decl/emit.h"
+#include "decl/initializers.h"
 #include "decl/symbol_table.h"
 #include "diag/diagnostics.h"
 #include "front/actions.h"
 #include "front/lexer.h"
+#include "front/workspace.h"
 
 namespace ycc {
 
 class Declarations : public Actions {
  public:
-  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens);
+  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens, Workspace& ws);
 
   SymbolTable& symbols() { return symbols_; }
   // The largest dimension count met in the file.
@@ -58,6 +61,12 @@ class Declarations : public Actions {
   void open_block(const Token& lbrace) override;
   void close_block(const Token& rbrace) override;
 
+  void begin_initializer(const Token& equal) override;
+  void initializer_open_brace(const Token& t) override;
+  void initializer_close_brace(const Token& t) override;
+  void initializer_identifier(const Token& name, const Token* sign) override;
+  void initializer_constant(const Token& first) override;
+
   void const_literal(const Token& t) override;
   void const_unary(const Token& op) override;
   void const_binary(const Token& op) override;
@@ -76,6 +85,7 @@ class Declarations : public Actions {
     int tag = 0;              // a tag declared with a body here
     bool any_declarator = false;
     bool had_tag = false;
+    char tag_kind = 's';
     int line = 0;
   };
   // A function, prototype or fun type whose lists are being read.
@@ -87,6 +97,8 @@ class Declarations : public Actions {
   };
 
   void error(int line, int sub, int bit, const std::string& text);
+  // The checks of a complete declarator, in their fixed order.
+  void check_declarator(const Token* name, bool initialized);
   Folded pop_constant();
   DeclState& decl() { return decls_.back(); }
   int new_declarator_entry(DeclState& d);
@@ -95,14 +107,28 @@ class Declarations : public Actions {
   bool type_is_struct(int type_sym, int* tag = nullptr) const;
   int resolve_type(int type_sym) const;
   const char* list_name() const;
+  // Warns of the block's ordinary locals that were never referenced.
+  void report_unreferenced(int first);
 
   const Options& options_;
   Diagnostics& diag_;
   const TokenBuffer& tokens_;
+  Workspace& ws_;
   SymbolTable symbols_;
+  Emitter emit_;
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;
+  // The items of the initializer being read, and what the constant
+  // expression of the current item was made of.
+  std::vector<InitItem> init_items_;
+  const Token* last_literal_ = nullptr;
+  int const_ops_ = 0;
+  char literal_sign_ = 0;
+  std::string last_string_c_text_;
+  std::string last_char_c_text_;
+  int last_char_value_ = 0;
+  int last_string_length_ = 0;
   std::vector<int> tags_;          // structures and enumerations whose bodies are open
   int max_dims_ = 0;
   bool declared_anything_ = false;

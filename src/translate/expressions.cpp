@@ -122,7 +122,7 @@ void Translator::parenthesized(const Token& lparen) {
 void Translator::identifier(const Token& name) {
   Entry& e = push_entry(name.line);
   std::string n(name.text);
-  int sub = symbols_.find_visible(n);
+  int sub = symbols_.find_other('o', n, 0);
   if (!sub) {
     e.value = n;
     e.empty = true;

@@ -326,7 +326,7 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
 
   if (form == CaseForm::Identifier) {
     std::string name(value.text);
-    int sub = symbols_.find_visible(name);
+    int sub = symbols_.find_other('o', name, 0);
     if (sub) ++symbols_[sub].ref_count;
     if (pending) *pending = "\ncase " + name + ":";
     if (!sw.enum_type) {

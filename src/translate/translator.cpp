@@ -6,7 +6,7 @@ namespace ycc {
 
 Translator::Translator(const Options& options, Diagnostics& diag, const TokenBuffer& tokens,
                        Workspace& ws, const std::string& prefix)
-    : Declarations(options, diag, tokens), ws_(ws), prefix_(prefix) {}
+    : Declarations(options, diag, tokens, ws), prefix_(prefix) {}
 
 std::string Translator::generated_name(const char* word, int number) const {
   if (number < 1) return strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);

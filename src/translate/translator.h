@@ -159,7 +159,6 @@ class Translator : public Declarations {
   void string_literal(Entry& e, const Token& t);
   void add_local(const std::string& text);
 
-  Workspace& ws_;
   std::string prefix_;
   std::vector<Entry> entries_;
 
