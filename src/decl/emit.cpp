@@ -120,6 +120,7 @@ void Emitter::emit_struct(int sub) {
   for (int m = sub + 1; m < body_end(sub); ++m) {
     const Symbol& s = symbols_[m];
     if (s.owner != sub || s.name_class != 'c') continue;
+    ws_.note_dimensions(s.dim_count());
     ws_.put_text('y', variable_text(m, true, false));
     if (s.dim_count() > 0 && s.is_var == 'n') ws_.put_text('y', companion_text(m, true, false, 0));
   }

@@ -5,9 +5,10 @@
 namespace ycc::testing {
 namespace {
 
-// A function f with int locals a, b, c, x and the return variable r.
+// A function f with int parameters a, b, c, x and the return variable r.
 std::string in_function(const std::string& statements, const std::string& globals = "") {
-  return globals + "f() int r;\nf() int r\n{\n int a;\n int b;\n int c;\n int x;\n" + statements + "\n}\n";
+  return globals + "f(int a, int b, int c, int x) int r;\nf(int a, int b, int c, int x) int r\n{\n" + statements +
+         "\n}\n";
 }
 
 const char color[] = "enum color { red, green, blue };\nenum size { small, large };\n";
@@ -72,9 +73,9 @@ TEST(TranslateStatements, MisplacedBreakAndContinue) {
   TranslateRun t;
   t.run(in_function("break;\ncontinue;\nswitch (a) { case 1: continue; }"));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "7 error: illegal placement of break: there is no enclosing while, do, for, or switch statement",
-              "8 error: illegal placement of continue: there is no enclosing while, do, or for statement",
-              "9 error: illegal placement of continue: there is no enclosing while, do, or for statement"}));
+              "3 error: illegal placement of break: there is no enclosing while, do, for, or switch statement",
+              "4 error: illegal placement of continue: there is no enclosing while, do, or for statement",
+              "5 error: illegal placement of continue: there is no enclosing while, do, or for statement"}));
 }
 
 TEST(TranslateStatements, ConsecutiveCaseLabelsGetOneBreak) {
@@ -98,14 +99,14 @@ TEST(TranslateStatements, CaseLabelErrors) {
                     "case 4: if (b) case 5: x = 8;\n}\ncase 6: x = 9;\ndefault: x = 10;",
                     color));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "11 error: duplicate case label: label value '1' must be unique within the switch statement",
-              "12 error: invalid case label: the label value has a floating-point type",
-              "13 error: invalid case label: the label value exceeds the representation limits of type 'unsigned long', which is the largest integral type",
-              "14 error: invalid case label: unless the switch expression is an enumeration variable (it is not) and 'red' is an enumeration constant of that enumeration type, then case label 'red' is invalid",
-              "16 error: duplicate default label: the default label can only occur at most once within the switch statement",
-              "17 error: a case label must appear on a top-level statement within the switch statement",
-              "19 error: a case label can only appear within a switch statement",
-              "20 error: a default label can only appear within a switch statement"}));
+              "7 error: duplicate case label: label value '1' must be unique within the switch statement",
+              "8 error: invalid case label: the label value has a floating-point type",
+              "9 error: invalid case label: the label value exceeds the representation limits of type 'unsigned long', which is the largest integral type",
+              "10 error: invalid case label: unless the switch expression is an enumeration variable (it is not) and 'red' is an enumeration constant of that enumeration type, then case label 'red' is invalid",
+              "12 error: duplicate default label: the default label can only occur at most once within the switch statement",
+              "13 error: a case label must appear on a top-level statement within the switch statement",
+              "15 error: a case label can only appear within a switch statement",
+              "16 error: a default label can only appear within a switch statement"}));
 }
 
 TEST(TranslateStatements, EnumerationSwitchCoverage) {
@@ -113,7 +114,7 @@ TEST(TranslateStatements, EnumerationSwitchCoverage) {
   TranslateRun missing;
   missing.run(in_function(two, color));
   EXPECT_EQ(missing.message_list(), (std::vector<std::string>{
-              "11 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
+              "7 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
 
   TranslateRun with_default;
   EXPECT_EQ(with_default.run(in_function(
@@ -133,7 +134,7 @@ TEST(TranslateStatements, EnumerationSwitchCoverage) {
   zero.run(in_function(
       "enum color k;\nk = red;\nswitch (k) { case 0: x = 0; case red: x = 1; case green: x = 2; }", color));
   EXPECT_EQ(zero.message_list(), (std::vector<std::string>{
-              "11 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
+              "7 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
 }
 
 TEST(TranslateStatements, EnumerationSwitchLabelErrors) {
@@ -142,10 +143,10 @@ TEST(TranslateStatements, EnumerationSwitchLabelErrors) {
                     "case red: x = 3;\ncase red: x = 4;\ncase a: x = 5;\ndefault: x = 6;\n}",
                     color));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "12 error: invalid case label: label '1' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression",
-              "13 error: invalid case label: label 'small' is an enumeration constant, but it does not belong to the enumeration type of the switch expression as required",
-              "15 error: duplicate case label: label 'red' must be unique within the switch statement",
-              "16 error: invalid case label: label 'a' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression"}));
+              "8 error: invalid case label: label '1' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression",
+              "9 error: invalid case label: label 'small' is an enumeration constant, but it does not belong to the enumeration type of the switch expression as required",
+              "11 error: duplicate case label: label 'red' must be unique within the switch statement",
+              "12 error: invalid case label: label 'a' is not an enumeration constant (or zero) as required by the enumeration type of the switch expression"}));
 }
 
 TEST(TranslateStatements, SwitchExpressionMustBeIntegralOrEnumeration) {
@@ -153,7 +154,7 @@ TEST(TranslateStatements, SwitchExpressionMustBeIntegralOrEnumeration) {
   t.run(in_function("double d;\nd = 1.0;\nswitch (d) { default: x = 1; }\nswitch (red) { case 0: x = 2; }",
                     color));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "11 error: the expression of the switch statement requires an integral or enumeration type"}));
+              "7 error: the expression of the switch statement requires an integral or enumeration type"}));
 }
 
 TEST(TranslateStatements, StatementLabelsAndGoto) {
@@ -167,9 +168,9 @@ TEST(TranslateStatements, DuplicateUnreferencedAndUndefinedLabels) {
   TranslateRun t;
   t.run(in_function("here: x = 1;\nhere: x = 2;\nthere: x = 3;\ngoto nowhere;\ngoto here;"));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "8 error: statement label 'here' is a duplicate: defined elsewhere in this function",
-              "9 warning: statement label 'there' is unreferenced in this function",
-              "10 error: the goto label 'nowhere' is not defined as a statement label in this function"}));
+              "4 error: statement label 'here' is a duplicate: defined elsewhere in this function",
+              "5 warning: statement label 'there' is unreferenced in this function",
+              "6 error: the goto label 'nowhere' is not defined as a statement label in this function"}));
   TranslateRun quiet;
   quiet.options.warning_level = 1;
   quiet.run(in_function("there: x = 3;"));
@@ -178,7 +179,7 @@ TEST(TranslateStatements, DuplicateUnreferencedAndUndefinedLabels) {
   level2.options.warning_level = 2;
   level2.run(in_function("there: x = 3;"));
   EXPECT_EQ(level2.message_list(), (std::vector<std::string>{
-              "7 warning: statement label 'there' is unreferenced in this function"}));
+              "3 warning: statement label 'there' is unreferenced in this function"}));
 }
 
 TEST(TranslateStatements, ExceptionsRaiseAndReturn) {
@@ -193,10 +194,10 @@ TEST(TranslateStatements, ExceptionNumberChecksAndDuplicates) {
   TranslateRun t;
   t.run(in_function("raise 0;\nraise 32001;\nexception 5: x = 1;\nexception 5: x = 2;\nexception 0: x = 3;"));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "7 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid",
-              "8 error: an exception number must be between 1 and 32000 inclusive: number '32001' is invalid",
-              "10 error: duplicate : the function has more than a single handler defined for exception 5",
-              "11 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid"}));
+              "3 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid",
+              "4 error: an exception number must be between 1 and 32000 inclusive: number '32001' is invalid",
+              "6 error: duplicate : the function has more than a single handler defined for exception 5",
+              "7 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid"}));
   // Handlers for one number in two functions are fine.
   TranslateRun two;
   two.run("f();\ng();\nf()\n{\nexception 5: ;\n}\ng()\n{\nexception 5: ;\n}\n");
@@ -207,7 +208,7 @@ TEST(TranslateStatements, ControlExpressionClassIsChecked) {
   TranslateRun t;
   t.run(in_function("int v[3];\nif (v) x = 1;\nwhile (red) x = 2;", color));
   EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "10 error: the control expression cannot be a space, the required type is scalar"}));
+              "6 error: the control expression cannot be a space, the required type is scalar"}));
 }
 
 TEST(TranslateStatements, LabelBeforeTheFunctionEndAndPrefix) {
