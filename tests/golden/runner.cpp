@@ -23,7 +23,7 @@ namespace {
 
 const std::set<std::string> reserved = {"args",       "env",        "stdout", "stderr",
                                         "status",     "expect",     "absent", "run",
-                                        "run.stdout", "run.status", "link",   "README"};
+                                        "run.stdout", "run.status", "run.stderr", "link", "README"};
 
 bool update_mode() {
   const char* u = std::getenv("YCC_GOLDEN_UPDATE");
@@ -178,6 +178,7 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
     if (link_only) continue;
     Outcome ran = run_in(work, (work / exe).string(), exe, {}, {});
     compare_text(case_dir / "run.stdout", ran.out, std::string(cc.name) + " program stdout");
+    compare_text(case_dir / "run.stderr", ran.err, std::string(cc.name) + " program stderr");
     compare_status(case_dir / "run.status", ran.status, std::string(cc.name) + " program status");
   }
 }
