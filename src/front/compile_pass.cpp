@@ -32,6 +32,15 @@ std::string read_all(std::FILE* f, const std::string& name) {
   return text;
 }
 
+// --dump-tokens: one line per token, "line-code NAME text".
+void dump_tokens(const TokenBuffer& tokens, std::ostream& out) {
+  for (const Token& t : tokens.tokens) {
+    out << t.line << ' ' << token_name(t.tok);
+    if (!t.text.empty()) out << ' ' << t.text;
+    out << '\n';
+  }
+}
+
 }  // namespace
 
 void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
@@ -61,6 +70,7 @@ void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
   try {
     TokenBuffer tokens = tokenize(read_all(input.f, intermediate), diag.files(), diag.err());
     end_line = tokens.tokens.back().line;
+    if (options.dump_tokens) dump_tokens(tokens, diag.err());
     SyntaxErrors syntax(diag);
     ParseContext ctx{options, diag, tokens, syntax, ws, prefix};
     run_start_rule(ctx);
