@@ -2,10 +2,12 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <new>
 
 #include "common/text.h"
 #include "front/lexer.h"
 #include "front/parse_seam.h"
+#include "front/parser.h"
 #include "front/syntax_errors.h"
 
 namespace ycc {
@@ -45,7 +47,21 @@ void dump_tokens(const TokenBuffer& tokens, std::ostream& out) {
 
 void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
                                       const std::string& intermediate, const std::string& output,
-                                      const std::string& source, const std::string& prefix_arg) {
+                                      const std::string& source, const std::string& prefix) {
+  try {
+    compile(options, diag, intermediate, output, source, prefix);
+  } catch (const std::bad_alloc&) {
+    fatal("insufficient memory");
+  } catch (const TokenBufferFailure& f) {
+    throw ParserResourceExit{f.report};
+  } catch (const ParserOverflow& f) {
+    throw ParserResourceExit{f.report};
+  }
+}
+
+void CompileSession::compile(const Options& options, Diagnostics& diag,
+                             const std::string& intermediate, const std::string& output,
+                             const std::string& source, const std::string& prefix_arg) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
   StreamCloser work{std::tmpfile()};

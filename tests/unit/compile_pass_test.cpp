@@ -151,6 +151,19 @@ TEST(CompilePass, SyntaxErrorLineMemoryIsPerFile) {
   EXPECT_NE(err.find("syntax error at or before '#'", first + 1), std::string::npos);
 }
 
+TEST(CompilePass, ParserNestingLimitBecomesAResourceExit) {
+  PassFixture f;
+  std::string deep = "\n#line 1 \"a.yc\"\nint x = " + std::string(5000, '(') + "1;\n";
+  std::ofstream(f.path("a.i")) << deep;
+  try {
+    f.session.compile_one_file(f.options, f.diag, f.path("a.i"), f.path("a.c"), "a.yc", "");
+    FAIL() << "no resource exit";
+  } catch (const ParserResourceExit& e) {
+    EXPECT_EQ(e.report.rfind("fatal: attrib/AST stack overflow ", 0), 0u) << e.report;
+    EXPECT_EQ(e.report.back(), '\n');
+  }
+}
+
 TEST(CompilePass, UnopenableIntermediateIsFatal) {
   PassFixture f;
   try {
