@@ -44,7 +44,6 @@ struct PassFixture {
   }
 };
 
-const char no_valid[] = "there are no valid declarations or functions";
 
 struct EmptyCase {
   const char* name;
