@@ -44,7 +44,6 @@ struct PassFixture {
   }
 };
 
-
 struct EmptyCase {
   const char* name;
   const char* intermediate;
