@@ -50,6 +50,7 @@ void Workspace::reset() {
   merge_.clear();
   blocks_.clear();
   work_file_ = nullptr;
+  output_name_.clear();
   file_ = nullptr;
   indent_ = column_ = 0;
   quote_ = 0;
