@@ -774,6 +774,23 @@ void Declarations::close_block(const Token&) {
   symbols_.leave_block();
 }
 
+// ---- type names ------------------------------------------------------------------
+
+void Declarations::begin_type_name(const Token& first) {
+  DeclState d;
+  d.ctx = DeclContext::Block;
+  d.line = first.line;
+  d.entry_used = true;  // a type name makes no entry
+  decls_.push_back(d);
+}
+
+void Declarations::end_type_name(const Token&) {
+  if (decls_.empty()) return;
+  const DeclState& d = decls_.back();
+  type_name_ = {d.type_bits, d.type_sym, d.spec_errors != 0};
+  decls_.pop_back();
+}
+
 // ---- initializers ----------------------------------------------------------------
 
 void Declarations::begin_initializer(const Token&) {

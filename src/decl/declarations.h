@@ -67,6 +67,11 @@ class Declarations : public Actions {
   void initializer_identifier(const Token& name, const Token* sign) override;
   void initializer_constant(const Token& first) override;
 
+  // A type name of a cast or sizeof: its specifiers are checked like a
+  // declaration's, and the type is kept in `type_name_` for the translation.
+  void begin_type_name(const Token& first) override;
+  void end_type_name(const Token& last) override;
+
   void const_literal(const Token& t) override;
   void const_unary(const Token& op) override;
   void const_binary(const Token& op) override;
@@ -100,7 +105,10 @@ class Declarations : public Actions {
   // The checks of a complete declarator, in their fixed order.
   void check_declarator(const Token* name, bool initialized);
   Folded pop_constant();
-  DeclState& decl() { return decls_.back(); }
+  DeclState& decl() {
+    if (decls_.empty()) decls_.push_back(DeclState{DeclContext::Block});  // specifiers out of place
+    return decls_.back();
+  }
   int new_declarator_entry(DeclState& d);
   void check_redefinition(int sub, int line);
   void join_vf_list(int member, int structure);
@@ -119,6 +127,11 @@ class Declarations : public Actions {
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;
+  struct TypeName {
+    int type_bits = 0;
+    int type_sym = 0;
+    bool bad = false;
+  } type_name_;
   // The items of the initializer being read, and what the constant
   // expression of the current item was made of.
   std::vector<InitItem> init_items_;

@@ -120,6 +120,11 @@ int run_compiler(const std::vector<std::string>& args, std::ostream& out, std::o
   } catch (const FatalError& f) {
     out.flush();
     err << f.report;
+  } catch (const ParserResourceExit& f) {
+    out.flush();
+    err << f.report;
+    err.flush();
+    return 255;
   }
   err.flush();
   return 1;
