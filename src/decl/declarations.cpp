@@ -157,7 +157,7 @@ void Declarations::use_tag(TagKind kind, const Token& tag) {
     d.spec_errors |= ERR_TYPE;
     return;
   }
-  int found = symbols_.find_tag(tag_kind_char(kind), n, d.entry);
+  int found = symbols_.find_tag(tag_kind_char(kind), n, d.entry ? d.entry : symbols_.count());
   if (!found) {
     error(tag.line, d.entry, ERR_TYPE,
           strf("there is no previous declaration of '%s %s'", tag_word(kind), n.c_str()));

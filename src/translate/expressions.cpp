@@ -194,21 +194,16 @@ void Translator::syntax_error_operand(const Token& at) {
 
 // ---- Type names, casts and sizeof --------------------------------------------------------
 
-void Translator::begin_type_name(const Token& first) { begin_declaration(DeclContext::Block, first); }
-
-void Translator::end_type_name(const Token&) {
-  if (decls_.empty()) return;
-  DeclState d = decls_.back();
-  decls_.pop_back();
-  int bits = d.type_bits;
-  int t = d.type_sym;
+// The type name of a cast or sizeof, with typedef names followed to their type.
+void Translator::resolve_type_name() {
+  int bits = type_name_.type_bits;
+  int t = type_name_.type_sym;
   for (int guard = 0; t && symbols_[t].name_is == 't' && guard < 1000; ++guard) {
     bits |= symbols_[t].type_bits;
     t = symbols_[t].type_sym;
   }
-  type_name_bits_ = d.spec_errors ? -1 : bits;
+  type_name_bits_ = type_name_.bad ? -1 : bits;
   type_name_sym_ = t;
-  if (!d.entry_used && d.entry == symbols_.count() - 1) symbols_.drop_last();
 }
 
 void Translator::cast(const Token& lparen) {
@@ -216,6 +211,7 @@ void Translator::cast(const Token& lparen) {
   int i = top_index();
   to_value(i);
   Entry& e = entry(i);
+  resolve_type_name();
   if (type_name_bits_ < 0) {
     e.reported = true;
     return;
@@ -241,6 +237,7 @@ void Translator::cast(const Token& lparen) {
 void Translator::sizeof_type(const Token& keyword) {
   Entry& e = push_entry(keyword.line);
   e.type_bits = 128;
+  resolve_type_name();
   if (type_name_bits_ < 0) {
     e.reported = true;
     return;

@@ -93,8 +93,6 @@ class Translator : public Declarations {
   void logical_and(const Token& op) override;
   void binary_operator(const Token& op) override;
   void unary_operator(const Token& op, Fix fix) override;
-  void begin_type_name(const Token& first) override;
-  void end_type_name(const Token& last) override;
   void cast(const Token& lparen) override;
   void sizeof_type(const Token& keyword) override;
   void sizeof_expr(const Token& keyword) override;
@@ -223,7 +221,8 @@ class Translator : public Declarations {
   std::map<int, int> temp_next_;
   std::map<int, int> temp_declared_;
 
-  // A type name of a cast or sizeof, read by the specifier actions.
+  // The type name of the last cast or sizeof, typedefs resolved.
+  void resolve_type_name();
   int type_name_bits_ = 0;
   int type_name_sym_ = 0;
 };
