@@ -281,6 +281,12 @@ void Preprocessor::define(const std::string& rest) {
   m.params = std::move(params);
   m.replacement = std::move(replacement);
   index_params(m);
+  // Without parameters the joins of "##" are the same at every use.
+  if (!function_like && m.replacement.find("##") != std::string::npos) {
+    std::string joined;
+    expander_.substitute(m, {}, joined);
+    m.replacement = std::move(joined);
+  }
 }
 
 void Preprocessor::undef(const std::string& rest) {

@@ -154,6 +154,10 @@ void Preprocessor::end_of_file() {
 }
 
 void Preprocessor::write_intermediate() {
+  if (job_.intermediate_name.empty()) {
+    job_.intermediate_text = std::move(writer_.out);
+    return;
+  }
   std::FILE* f = std::fopen(host_path(job_.intermediate_name).c_str(), "wb");
   if (!f) {
     report(top().reader.last_line(), strf("output file '%s' : %s", job_.intermediate_name.c_str(),
