@@ -303,8 +303,11 @@ void Preprocessor::undef(const std::string& rest) {
     report(cur_line_, strf("'%s' is a built-in macro name: it cannot be undefined", name.c_str()));
     return;
   }
+  if (!trim(r.substr(e)).empty()) {
+    extra_text(r.substr(e));
+    return;
+  }
   table_.undefine(name);
-  extra_text(r.substr(e));
 }
 
 void Preprocessor::include(const std::string& rest) {
