@@ -230,6 +230,10 @@ void Preprocessor::invocation(Macro& m, const Token& name_tok) {
   std::string name(name_tok.text);
   int name_blanks = name_tok.blanks;
   int name_line = name_tok.line;
+  if (e.no_calls) {
+    writer_.token(name, name_blanks, false);
+    return;
+  }
   Reader::State after_name = e.reader.save();
   Token open = e.reader.next(true);
   if (open.kind != Tok::punct || open.text != "(") {
@@ -247,6 +251,7 @@ void Preprocessor::invocation(Macro& m, const Token& name_tok) {
     Token t = e.reader.next(true);
     if (t.kind == Tok::end) {
       fault = col.at_end();
+      e.no_calls = true;
       break;
     }
     newlines += t.newlines;
