@@ -89,7 +89,7 @@ void Driver::process(const SourceFile& file) {
       out_ << " compile    '" << file.source_name << "'\n";
       out_.flush();
       session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
-                                file.source_name);
+                                file.source_name, options_.prefix);
     }
   }
   if (job.intermediate_written && !options_.keep_intermediate)

@@ -1,9 +1,89 @@
 #include "front/compile_pass.h"
 
+#include <cerrno>
+#include <cstdio>
+
+#include "common/text.h"
+#include "front/lexer.h"
+#include "front/parse_seam.h"
+#include "front/syntax_errors.h"
+
 namespace ycc {
 
-// The lexer, the parser and the output assembly plug in here.
-void CompileSession::compile_one_file(const Options&, Diagnostics&, const std::string&,
-                                      const std::string&, const std::string&) {}
+namespace {
+
+// Closes a C stream on every way out; a closed tmpfile vanishes.
+struct StreamCloser {
+  std::FILE* f;
+  ~StreamCloser() {
+    if (f) std::fclose(f);
+  }
+};
+
+// Reads the whole intermediate file through a stream opened in text mode.
+std::string read_all(std::FILE* f, const std::string& name) {
+  std::string text;
+  char buf[65536];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) text.append(buf, n);
+  if (std::ferror(f))
+    fatal(strf("unable to open preprocessed file '%s': %s", name.c_str(),
+               system_error_text(errno).c_str()));
+  return text;
+}
+
+}  // namespace
+
+void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
+                                      const std::string& intermediate, const std::string& output,
+                                      const std::string& source, const std::string& prefix_arg) {
+  const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
+
+  StreamCloser work{std::tmpfile()};
+  if (!work.f)
+    fatal(strf("unable to create temporary work file: %s", system_error_text(errno).c_str()));
+  diag.begin_compile();
+  if (!workspace_) workspace_ = std::make_unique<Workspace>(options, diag);
+  Workspace& ws = *workspace_;
+  ws.reset();
+  ws.attach_work_file(work.f);
+  ws.set_prefix(prefix);
+
+  StreamCloser input{std::fopen(intermediate.c_str(), "r")};
+  if (!input.f)
+    fatal(strf("unable to open preprocessed file '%s': %s", intermediate.c_str(),
+               system_error_text(errno).c_str()));
+
+  const std::string halted =
+      strf(" compilation of '%s' halted\n ** too many errors **\n", source.c_str());
+  bool was_halted = false;
+  int end_line = 0;  // where the lexer stood at the end of the file
+  try {
+    TokenBuffer tokens = tokenize(read_all(input.f, intermediate), diag.files(), diag.err());
+    end_line = tokens.tokens.back().line;
+    SyntaxErrors syntax(diag);
+    ParseContext ctx{options, diag, tokens, syntax, ws, prefix};
+    run_start_rule(ctx);
+    ++files_compiled_;
+  } catch (const CompileHalt&) {
+    diag.flush();
+    diag.err() << halted;
+    was_halted = true;
+  }
+
+  if (ws.nothing_emitted()) {
+    try {
+      diag.error(end_line, "there are no valid declarations or functions");
+    } catch (const CompileHalt&) {
+      // Step 9 runs after a halt too; the limit is announced once.
+      diag.flush();
+      if (!was_halted) diag.err() << halted;
+    }
+  }
+  diag.flush();
+  diag.end_compile();
+  ws.assemble(output);
+  ws.reset();
+}
 
 }  // namespace ycc

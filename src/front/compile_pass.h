@@ -1,19 +1,32 @@
 // The compile pass: one intermediate file becomes one output C file.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "common/options.h"
 #include "diag/diagnostics.h"
+#include "front/workspace.h"
 
 namespace ycc {
 
-// Run-level state of the compile pass (the code workspace is set up on the
-// first compiled file and reused); everything per file is made per call.
+// Run-level state of the compile pass: the code workspace, set up on the
+// first compiled file and reused, and the count of compiled files.
+// Everything per file is made per call.
 class CompileSession {
  public:
+  // An empty `prefix` keeps the generated-names prefix "zz".
   void compile_one_file(const Options& options, Diagnostics& diag, const std::string& intermediate,
-                        const std::string& output, const std::string& source);
+                        const std::string& output, const std::string& source,
+                        const std::string& prefix);
+
+  int files_compiled() const { return files_compiled_; }
+  // The run's workspace (null before the first compiled file).
+  Workspace* workspace() { return workspace_.get(); }
+
+ private:
+  std::unique_ptr<Workspace> workspace_;
+  int files_compiled_ = 0;
 };
 
 }  // namespace ycc

@@ -1,7 +1,6 @@
 // The lexer: the whole intermediate file becomes tokens before parsing starts.
 #pragma once
 
-#include <deque>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -12,19 +11,28 @@
 
 namespace ycc {
 
-// Lines of declarations that came from extern includes: L lies in range i
-// when ranges[i].begin < L < ranges[i + 1].end (see the lexer for the rule).
+// Lines of declarations that came from extern includes. An "extern_on" line
+// sets the begin of the current entry, an "extern_off" line starts the next
+// entry and sets its end; L lies in range i when
+// ranges[i].begin < L < ranges[i + 1].end.
 struct ExternRange {
   int begin = 0;
   int end = 0;
 };
 
 // Every token of one file, up to and including Eof. Token texts point into
-// `texts`, which owns them for the life of the buffer.
+// `text_store` (each text NUL-terminated), which the buffer owns; the buffer
+// can be moved but not copied, so the texts never dangle.
 struct TokenBuffer {
   std::vector<Token> tokens;
   std::vector<ExternRange> extern_ranges;
-  std::deque<std::string> texts;
+  std::vector<char> text_store;
+
+  TokenBuffer() = default;
+  TokenBuffer(TokenBuffer&&) = default;
+  TokenBuffer& operator=(TokenBuffer&&) = default;
+  TokenBuffer(const TokenBuffer&) = delete;
+  TokenBuffer& operator=(const TokenBuffer&) = delete;
 
   // Whether a line code lies in an extern line range.
   bool in_extern_range(int line) const;

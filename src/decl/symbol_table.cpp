@@ -1,0 +1,139 @@
+#include "decl/symbol_table.h"
+
+#include <algorithm>
+
+#include "common/text.h"
+#include "diag/diagnostics.h"
+
+namespace ycc {
+
+SymbolTable::SymbolTable() : symbols_(1), buckets_(bucket_count) {}
+
+int SymbolTable::new_symbol() {
+  symbols_.emplace_back();
+  symbols_.back().serial = ++serial_;
+  return count() - 1;
+}
+
+int SymbolTable::hash(std::string_view name) {
+  int h = 0;
+  for (char c : name) {
+    h = ((h << 6) + static_cast<signed char>(c)) % bucket_count;
+    if (h < 0) h += bucket_count;
+  }
+  return h;
+}
+
+void SymbolTable::make_anonymous(int sub) {
+  Symbol& s = (*this)[sub];
+  s.name = strf("1%d", s.serial);
+}
+
+void SymbolTable::add_to_index(int sub) {
+  YCC_CHECK(sub != 0, "yc_fun");
+  buckets_[static_cast<size_t>(hash((*this)[sub].name))].push_back(sub);
+}
+
+void SymbolTable::remove_from_index(int sub) {
+  std::vector<int>& b = buckets_[static_cast<size_t>(hash((*this)[sub].name))];
+  auto it = std::find(b.rbegin(), b.rend(), sub);
+  if (it != b.rend()) b.erase(std::next(it).base());
+}
+
+int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner) const {
+  YCC_CHECK(name_class == 'g' || name_class == 'c' || name_class == 'i' || name_class == 'o',
+            "yc_fun");
+  if (!name.empty() && name[0] == '1') return 0;
+  std::string key = stored_name(name);
+  int lowest = depth() > 0 && name_class != 'g' ? block_first(depth()) : 1;
+  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
+  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+    if (*it < lowest) return 0;
+    const Symbol& s = (*this)[*it];
+    if (s.name_class != name_class) continue;
+    if (name_class == 'c' && s.owner != owner) continue;
+    if (s.name == key) return *it;
+  }
+  return 0;
+}
+
+int SymbolTable::find_typedef(std::string_view name) const {
+  std::string key = stored_name(name);
+  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
+  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+    const Symbol& s = (*this)[*it];
+    if (s.name_is == 't' && s.name == key) return *it;
+  }
+  return 0;
+}
+
+int SymbolTable::find_tag(char name_is, std::string_view name, int before) const {
+  std::string key = stored_name(name);
+  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
+  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+    const Symbol& s = (*this)[*it];
+    if (*it < before && s.name_is == name_is && s.name_class == 'g' && s.name == key) return *it;
+  }
+  return 0;
+}
+
+void SymbolTable::open_construction(char kind, int first) {
+  if (!constructions_.empty() && constructions_.back().kind == 'u') {
+    constructions_.back().kind = kind;
+    return;
+  }
+  constructions_.push_back({kind, first});
+}
+
+void SymbolTable::set_construction_kind(char kind) {
+  if (!constructions_.empty()) constructions_.back().kind = kind;
+}
+
+void SymbolTable::close_construction() {
+  if (!constructions_.empty()) constructions_.pop_back();
+}
+
+void SymbolTable::enter_block() { blocks_.push_back({count(), 'n'}); }
+
+void SymbolTable::leave_block() {
+  if (blocks_.empty()) return;
+  int first = blocks_.back().first;
+  blocks_.pop_back();
+  for (int sub = count() - 1; sub >= first; --sub)
+    if (!(*this)[sub].anonymous() && !(*this)[sub].name.empty()) remove_from_index(sub);
+  symbols_.resize(static_cast<size_t>(first));
+}
+
+void SymbolTable::dump(std::ostream& out, int sub) const {
+  int from = sub, to = sub;
+  if (sub == 0) {
+    out << "\n\n  symbol table\n\n";
+    from = 1;
+    to = count() - 1;
+  }
+  for (int i = from; i <= to; ++i) {
+    const Symbol& s = (*this)[i];
+    out << strf("(%2d) (%d, %s, %c, %c, %d) (%d) (%d, %d)", i, s.error_flags, s.name.c_str(),
+                s.name_class ? s.name_class : ' ', s.name_is ? s.name_is : ' ', s.owner, s.storage,
+                s.type_bits, s.type_sym);
+    if (s.name_is == 'v') out << strf(" v:(%c, %d)", s.is_var, s.dim_count());
+    if (s.name_is == 'd' || s.name_is == 'f' || s.name_is == 'n')
+      out << strf(" f:(%c, %d, %d)", s.ellipsis, s.param_count, s.return_count);
+    if (s.p_or_r != 'n')
+      out << strf(" r:(%c, %c, %c, %d)", s.p_or_r, s.role[0], s.role[1], s.role_number);
+    if (!s.vf.empty()) {
+      out << strf(" vf:(%c, %c, ", s.vf_flags[0], s.vf_flags[1]);
+      for (size_t k = 0; k < s.vf.size(); ++k)
+        out << strf("%d%s", s.vf[k], k + 1 < s.vf.size() ? ", " : ")");
+    }
+    if (s.contains_fun_ptr == 'y') out << " (contains function pointer)";
+    out << "\n";
+    for (int d = 0; d < s.dim_count(); ++d) {
+      const Dimension& dim = s.dims[static_cast<size_t>(d)];
+      out << strf("(dim %d) init:%d resize-num:%d resize-pct:%d\n", d + 1, dim.size,
+                  dim.resize_num, dim.resize_pct);
+    }
+  }
+}
+
+}  // namespace ycc

@@ -1,0 +1,93 @@
+// Assembly of the output C file: header, meta record types, then the work
+// file with merge markers replaced by their slots and "##" regions resolved.
+#include <cerrno>
+#include <cstdlib>
+
+#include "common/text.h"
+#include "front/workspace.h"
+
+namespace ycc {
+
+namespace {
+
+const char header_text[] =
+    "\n#define FALSE 0\n#define TRUE 1\n#include <stdio.h>\n#include <stdlib.h>\n#include <string.h>";
+
+[[noreturn]] void output_write_failed(const std::string& name) {
+  fatal(strf("error writing to file '%s': %s", name.c_str(), system_error_text(errno).c_str()));
+}
+
+void write_all(std::FILE* out, std::string_view text, const std::string& name) {
+  if (!text.empty() && std::fwrite(text.data(), 1, text.size(), out) != text.size())
+    output_write_failed(name);
+}
+
+// Reads one line with its newline (the last may lack one); false at the end.
+bool read_line(std::FILE* in, std::string& line) {
+  line.clear();
+  char buf[50000];
+  while (std::fgets(buf, sizeof buf, in)) {
+    line += buf;
+    if (!line.empty() && line.back() == '\n') return true;
+  }
+  if (std::ferror(in))
+    fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
+  return !line.empty();
+}
+
+}  // namespace
+
+void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
+  RegionFilter filter(options_.bounds_checks);
+  std::string line;
+  while (read_line(work_file_, line)) {
+    std::string_view body(line);
+    if (body.ends_with('\n')) body.remove_suffix(1);
+    // Merge markers come first, so one inside a dropped part is still replaced.
+    if (body.starts_with("#merge ")) {
+      char* end = nullptr;
+      long n = std::strtol(line.c_str() + 7, &end, 10);
+      if (end != line.c_str() + 7 && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
+        write_all(out, *merge(static_cast<int>(n)).data, output_name);
+      continue;
+    }
+    if (filter.keep(body)) write_all(out, line, output_name);
+  }
+}
+
+void Workspace::assemble(const std::string& output_name) {
+  std::FILE* out = std::fopen(output_name.c_str(), "w+");
+  if (!out)
+    fatal(strf("unable to open file '%s' for output: %s", output_name.c_str(),
+               system_error_text(errno).c_str()));
+  output_name_ = output_name;
+  if (diag_.errors == 0) {
+    if (options_.memory_locations && generate_out_of_memory) generate_out_of_memory(*this);
+    if (options_.bounds_checks && generate_bounds_exceeded) generate_bounds_exceeded(*this);
+    to_deferred = to_function_exit = to_fragment = false;
+    std::string functions;
+    functions.swap(deferred);
+    put_text('y', functions);
+
+    if (std::fflush(work_file_) != 0) fatal(strf("error writing to temporary file: %s", system_error_text(errno).c_str()));
+    std::rewind(work_file_);
+    file_ = out;
+    put_text('n', header_text);
+    for (int d = 1; d <= max_dimensions_; ++d) {
+      put_text('n', strf("\nstruct %s {", strf("%s%dD_meta", prefix_.c_str(), d).c_str()));
+      indent_in();
+      put_text('y', "void *ptr;");
+      if (d == 1) put_text('y', strf("%s occurs;", "unsigned"));
+      for (int i = 1; i <= d; ++i) put_text('y', strf("%s limit%d;", "unsigned", i));
+      indent_out();
+      put_text('y', "};\n");
+    }
+    file_ = work_file_;
+    copy_work_file(out, output_name);
+  }
+  if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
+  if (std::fclose(out) != 0) output_write_failed(output_name);
+  output_name_.clear();
+}
+
+}  // namespace ycc

@@ -1,0 +1,339 @@
+// The lexer reads the intermediate file in one pass. Besides tokens it
+// consumes the control lines the preprocessor leaves: a newline followed by
+// "#line" switches to line-directive mode (the number and quoted file name set
+// the line code), "#pragma" lines are skipped, and "#pragma extern_on" (only
+// directly after a "#line" line) / "#pragma extern_off" bound extern ranges.
+// In every mode the longest match wins, ties going to the earlier rule.
+#include "front/lexer.h"
+
+#include <climits>
+#include <cstdint>
+#include <unordered_map>
+
+#include "common/text.h"
+
+namespace ycc {
+
+bool TokenBuffer::in_extern_range(int line) const {
+  for (size_t i = 0; i + 1 < extern_ranges.size(); ++i)
+    if (extern_ranges[i].begin < line && line < extern_ranges[i + 1].end) return true;
+  return false;
+}
+
+namespace {
+
+constexpr std::int64_t file_factor = 1000000;
+
+bool is_hex_digit(char c) {
+  return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+bool is_garbage(char c) { return c == '#' || c == '$' || c == '@' || c == '\\' || c == '`'; }
+
+// Keywords and punctuators, both taken from the token table.
+struct Spellings {
+  std::unordered_map<std::string_view, int> keywords;
+  std::unordered_map<std::string_view, int> punctuators;
+  Spellings() {
+#define TOKEN(number, name, spelling)                                  \
+  if (std::string_view(spelling).empty()) {                           \
+  } else if (is_ident_start(spelling[0])) {                           \
+    keywords.emplace(spelling, number);                               \
+  } else {                                                            \
+    punctuators.emplace(spelling, number);                            \
+  }
+#include "front/tokens.def"
+#undef TOKEN
+  }
+};
+
+const Spellings& spellings() {
+  static const Spellings s;
+  return s;
+}
+
+class Lexer {
+ public:
+  Lexer(std::string_view text, FileTable& files, std::ostream& err)
+      : s_(text), files_(files), err_(err) {}
+
+  TokenBuffer run();
+
+ private:
+  enum class Mode { normal, line_directive };
+
+  char at(size_t i) const { return i < s_.size() ? s_[i] : '\0'; }
+  bool starts(size_t i, std::string_view w) const { return s_.substr(std::min(i, s_.size())).starts_with(w); }
+  size_t rest_of_line(size_t i) const {
+    size_t nl = s_.find('\n', i);
+    return nl == std::string_view::npos ? s_.size() : nl;
+  }
+  // Length of "#pragma" + blanks + word + rest of line at i, or 0.
+  size_t pragma_with(size_t i, std::string_view word) const;
+
+  int line_code() const {
+    if (line_ > INT_MAX) return INT_MAX;
+    if (line_ < INT_MIN) return INT_MIN;
+    return static_cast<int>(line_);
+  }
+  void next_line() {
+    if (line_ < INT_MAX) ++line_;
+  }
+  void emit(int tok, size_t begin, size_t end) { emit(tok, s_.substr(begin, end - begin)); }
+  void emit(int tok, std::string_view text);
+
+  void normal_step();
+  void line_directive_step();
+  void newline_in_normal();
+  void line_start();
+  size_t number_end(size_t i, int& tok) const;
+  size_t quoted_end(size_t i, char quote) const;
+  void file_name();
+  // An entry whose begin was never set (an "extern_off" with no "extern_on")
+  // holds no line.
+  void grow_ranges() {
+    if (ranges_.size() <= current_range_) ranges_.resize(current_range_ + 1, {INT_MAX, 0});
+  }
+  void extern_on() {
+    grow_ranges();
+    ranges_[current_range_].begin = static_cast<int>(std::max<std::int64_t>(line_ - 1, INT_MIN));
+  }
+  void extern_off() {
+    ++current_range_;
+    grow_ranges();
+    ranges_[current_range_].end = line_code();
+  }
+
+  std::string_view s_;
+  FileTable& files_;
+  std::ostream& err_;
+  size_t pos_ = 0;
+  Mode mode_ = Mode::normal;
+  std::int64_t line_ = 0;
+  std::vector<ExternRange> ranges_;
+  size_t current_range_ = 0;
+  std::vector<Token> tokens_;
+  std::vector<size_t> offsets_;
+  std::vector<char> store_;
+};
+
+void Lexer::emit(int tok, std::string_view text) {
+  offsets_.push_back(store_.size());
+  store_.insert(store_.end(), text.begin(), text.end());
+  store_.push_back('\0');
+  tokens_.push_back({tok, {}, line_code()});
+}
+
+size_t Lexer::pragma_with(size_t i, std::string_view word) const {
+  if (!starts(i, "#pragma")) return 0;
+  size_t j = i + 7;
+  size_t blanks = j;
+  while (at(j) == ' ' || at(j) == '\t') ++j;
+  if (j == blanks || !starts(j, word)) return 0;
+  return rest_of_line(j) - i;
+}
+
+// The end of the quoted constant that opens at i: escapes are a backslash
+// pair or a backslash before the quote; a newline ends it unclosed.
+size_t Lexer::quoted_end(size_t i, char quote) const {
+  size_t j = i + 1;
+  while (j < s_.size()) {
+    char c = s_[j];
+    if (c == quote) return j + 1;
+    if (c == '\n') return j;
+    if (quote == '"') {
+      j += (c == '\\' && (at(j + 1) == '\\' || at(j + 1) == quote)) ? 2 : 1;
+      continue;
+    }
+    // A character constant extends by runs free of newline and apostrophe,
+    // which compete with the two escapes by length (a tie goes to the escape).
+    size_t run = j;
+    while (run < s_.size() && s_[run] != '\n' && s_[run] != quote) ++run;
+    bool escape = c == '\\' && (at(j + 1) == '\\' || at(j + 1) == quote);
+    j = (escape && run - j <= 2) ? j + 2 : run;
+  }
+  return j;
+}
+
+// The longest numeric constant at i (a digit, or a point before a digit).
+size_t Lexer::number_end(size_t i, int& tok) const {
+  auto digits = [&](size_t j) {
+    while (is_digit(at(j))) ++j;
+    return j;
+  };
+  auto int_suffix = [&](size_t j) {
+    if ((at(j) == 'U' && at(j + 1) == 'L') || (at(j) == 'L' && at(j + 1) == 'U')) return j + 2;
+    if (at(j) == 'U' || at(j) == 'L') return j + 1;
+    return j;
+  };
+  auto exponent = [&](size_t j) {  // returns j when there is no complete exponent
+    if (at(j) != 'e' && at(j) != 'E') return j;
+    size_t k = j + 1;
+    if (at(k) == '+' || at(k) == '-') ++k;
+    if (!is_digit(at(k))) return j;
+    return digits(k);
+  };
+  auto float_suffix = [&](size_t j) { return (at(j) == 'F' || at(j) == 'L') ? j + 1 : j; };
+
+  size_t best = i;
+  tok = T_DECIMALINT;
+  auto consider = [&](size_t end, int t) {
+    if (end > best) {
+      best = end;
+      tok = t;
+    }
+  };
+  if (at(i) == '0' && (at(i + 1) == 'x' || at(i + 1) == 'X') && is_hex_digit(at(i + 2))) {
+    size_t j = i + 2;
+    while (is_hex_digit(at(j))) ++j;
+    consider(int_suffix(j), T_HEXADECIMAL);
+  }
+  size_t int_end = digits(i);
+  if (int_end > i) consider(int_suffix(int_end), T_DECIMALINT);
+  if (at(int_end) == '.') {
+    size_t frac_end = digits(int_end + 1);
+    if (int_end > i || frac_end > int_end + 1) consider(float_suffix(exponent(frac_end)), T_FLOATONE);
+  }
+  if (int_end > i) {
+    size_t e = exponent(int_end);
+    if (e > int_end) consider(float_suffix(e), T_FLOATTWO);
+  }
+  return best;
+}
+
+void Lexer::newline_in_normal() {
+  if (starts(pos_, "\n#line") && (at(pos_ + 6) == ' ' || at(pos_ + 6) == '\t')) {
+    ++pos_;
+    line_start();
+    return;
+  }
+  next_line();
+  ++pos_;
+  line_start();
+}
+
+// Control lines. The preprocessor puts a newline before every marker it
+// writes, but a directive of the source may follow a "#line" line (whose
+// newline that mode consumed) or open the file, so they are also recognised
+// there; a newline consumed by line-directive mode counts no line.
+void Lexer::line_start() {
+  if (starts(pos_, "#line") && (at(pos_ + 5) == ' ' || at(pos_ + 5) == '\t')) {
+    pos_ += 5;
+    mode_ = Mode::line_directive;
+  } else if (size_t n = pragma_with(pos_, "extern_off")) {
+    extern_off();
+    pos_ += n;
+  } else if (starts(pos_, "#pragma")) {
+    pos_ = rest_of_line(pos_);
+  }
+}
+
+void Lexer::file_name() {
+  size_t end = quoted_end(pos_, '"');
+  size_t name_end = (end > pos_ + 1 && at(end - 1) == '"') ? end - 1 : end;
+  int index = files_.intern(s_.substr(pos_ + 1, name_end - pos_ - 1));
+  line_ = line_ % file_factor + static_cast<std::int64_t>(index) * file_factor;
+  pos_ = end;
+}
+
+void Lexer::line_directive_step() {
+  char c = s_[pos_];
+  if (c == '\n') {
+    if (size_t n = pragma_with(pos_ + 1, "extern_on")) {
+      extern_on();
+      pos_ += 1 + n;
+      return;
+    }
+    mode_ = Mode::normal;
+    ++pos_;
+    line_start();
+  } else if (is_digit(c)) {
+    std::int64_t number = 0;
+    while (is_digit(at(pos_))) {
+      if (number < file_factor * 10000) number = number * 10 + (s_[pos_] - '0');
+      ++pos_;
+    }
+    line_ = number + (line_ / file_factor) * file_factor;
+  } else if (c == '"') {
+    file_name();
+  } else {
+    ++pos_;
+  }
+}
+
+void Lexer::normal_step() {
+  char c = s_[pos_];
+  size_t begin = pos_;
+  if (c == '\n') {
+    newline_in_normal();
+  } else if (c == ' ' || c == '\t') {
+    ++pos_;
+  } else if (c == '/' && at(pos_ + 1) == '*') {
+    // Comments do not nest; an unclosed one runs to the end of the file.
+    size_t close = s_.find("*/", pos_ + 2);
+    size_t end = close == std::string_view::npos ? s_.size() : close + 2;
+    for (size_t j = pos_ + 2; j < end; ++j)
+      if (s_[j] == '\n') next_line();
+    pos_ = end;
+  } else if (c == '/' && at(pos_ + 1) == '/') {
+    // The newline stays for normal mode, which counts it.
+    pos_ = rest_of_line(pos_);
+  } else if (is_digit(c) || (c == '.' && is_digit(at(pos_ + 1)))) {
+    int tok;
+    pos_ = number_end(pos_, tok);
+    emit(tok, begin, pos_);
+  } else if (is_ident_start(c)) {
+    while (is_ident_char(at(pos_))) ++pos_;
+    std::string_view word = s_.substr(begin, pos_ - begin);
+    auto it = spellings().keywords.find(word);
+    emit(it == spellings().keywords.end() ? T_IDENTIFIER : it->second, word);
+  } else if (c == '"' || c == '\'') {
+    // An unclosed constant ends before its newline, which normal mode counts.
+    pos_ = quoted_end(pos_, c);
+    emit(c == '"' ? T_STRING : T_CHARACTER, begin, pos_);
+  } else if (is_garbage(c)) {
+    while (is_garbage(at(pos_))) ++pos_;
+    emit(T_GARBAGE, begin, pos_);
+  } else {
+    const auto& punct = spellings().punctuators;
+    for (size_t len = 3; len >= 1; --len) {
+      if (pos_ + len > s_.size()) continue;
+      auto it = punct.find(s_.substr(pos_, len));
+      if (it != punct.end()) {
+        pos_ += len;
+        emit(it->second, begin, pos_);
+        return;
+      }
+    }
+    // Not counted as an error; the raw line code is shown.
+    err_ << strf("%s near line %d (text was '%c')\n", "invalid token", line_code(), c);
+    ++pos_;
+  }
+}
+
+TokenBuffer Lexer::run() {
+  line_start();
+  while (pos_ < s_.size()) {
+    if (mode_ == Mode::normal)
+      normal_step();
+    else
+      line_directive_step();
+  }
+  emit(T_Eof, std::string_view());
+  TokenBuffer out;
+  out.text_store = std::move(store_);
+  out.tokens = std::move(tokens_);
+  for (size_t i = 0; i < out.tokens.size(); ++i) {
+    size_t len = (i + 1 < offsets_.size() ? offsets_[i + 1] : out.text_store.size()) - offsets_[i] - 1;
+    out.tokens[i].text = std::string_view(out.text_store.data() + offsets_[i], len);
+  }
+  out.extern_ranges = std::move(ranges_);
+  return out;
+}
+
+}  // namespace
+
+TokenBuffer tokenize(std::string_view text, FileTable& files, std::ostream& err) {
+  return Lexer(text, files, err).run();
+}
+
+}  // namespace ycc

@@ -1,0 +1,297 @@
+#include "front/workspace.h"
+
+#include <cerrno>
+
+#include "common/text.h"
+
+namespace ycc {
+
+namespace {
+
+const char source_name[] = "yc";
+
+[[noreturn]] void write_failed(const std::string& output_name) {
+  std::string why = system_error_text(errno);
+  if (output_name.empty()) fatal(strf("error writing to temporary file: %s", why.c_str()));
+  fatal(strf("error writing to file '%s': %s", output_name.c_str(), why.c_str()));
+}
+
+}  // namespace
+
+Workspace::Workspace(const Options& options, Diagnostics& diag) : options_(options), diag_(diag) {
+  int code_workspace_halfmegs = options.halfmegs;
+  YCC_CHECK(code_workspace_halfmegs > 0, source_name);
+  // The sizes only reserve room: every text grows past them when needed.
+  size_t n = static_cast<size_t>(code_workspace_halfmegs) * 500000;
+  wtext.reserve(n);
+  wtext2.reserve(n);
+  globals.reserve(n / 10);
+  wd_locals.reserve(n / 2);
+  resize_locals.reserve(n / 10);
+  wd_init_code.reserve(n / 10);
+  function_exit.reserve(n / 10);
+  deferred.reserve(n);
+  function_extra.reserve(n / 10);
+  scratch[0].reserve(n / 20);
+  scratch[1].reserve(n / 20);
+  scratch[2].reserve(n / 10);
+  scratch[3].reserve(n / 40);
+  code.reserve(fragment_growth);
+  merge_.reserve(merge_growth);
+}
+
+void Workspace::reset() {
+  for (std::string* t : {&wtext, &wtext2, &globals, &wd_locals, &resize_locals, &wd_init_code,
+                         &function_exit, &deferred, &function_extra, &scratch[0], &scratch[1],
+                         &scratch[2], &scratch[3]})
+    t->clear();
+  to_deferred = to_function_exit = to_fragment = false;
+  code.clear();
+  merge_.clear();
+  blocks_.clear();
+  work_file_ = nullptr;
+  file_ = nullptr;
+  indent_ = column_ = 0;
+  quote_ = 0;
+  backslashes_ = 0;
+  wtext_has_user_ = 'n';
+  output_started_ = 'n';
+  globals_slot_ = curr_wd_locals_ = curr_wd_init_code_ = resize_slot_ = -1;
+  emitted_ = 0;
+  max_dimensions_ = 0;
+}
+
+void Workspace::put_text(char newline_bgn, std::string_view text) {
+  if (!(newline_bgn == 'y' || newline_bgn == 'n'))
+    internal_check_failed("newline_bgn == 'y' || newline_bgn == 'n'", source_name, __LINE__);
+  if (diag_.errors > 0) return;
+  std::string prefix;
+  if (newline_bgn == 'y') {
+    prefix = "\n" + std::string(static_cast<size_t>(indent_), ' ');
+    column_ = indent_;
+  }
+  if (to_deferred) {
+    deferred += prefix;
+    deferred += text;
+  } else if (to_function_exit) {
+    function_exit += prefix;
+    function_exit += text;
+  } else if (to_fragment && !code.empty()) {
+    int last = code_cnt() - 1;
+    bool taken_here = !code.back().in_work_text;
+    if (taken_here) take_work_text(last);
+    wtext += prefix;
+    wtext += text;
+    if (taken_here) release_work_text(last);
+  } else {
+    write_file(prefix, text);
+  }
+}
+
+void Workspace::write_byte(char c) {
+  if (std::fputc(c, file_) == EOF) write_failed(file_ == work_file_ ? std::string() : output_name_);
+}
+
+void Workspace::write_file(std::string_view prefix, std::string_view text) {
+  if (!file_) file_ = work_file_;
+  YCC_CHECK(file_ != nullptr, source_name);
+  for (char c : prefix) write_byte(c);
+  for (char c : text) {
+    write_byte(c);
+    column_ = c == '\n' ? 0 : column_ + 1;
+    // A literal closes at its own quote preceded by an even run of backslashes.
+    bool was_open = quote_ != 0;
+    if (!was_open) {
+      if (c == '\'' || c == '"') quote_ = c;
+    } else if (c == quote_ && backslashes_ % 2 == 0) {
+      quote_ = 0;
+    }
+    backslashes_ = (was_open && c == '\\') ? backslashes_ + 1 : 0;
+    if (column_ > output_width && (c == ' ' || c == ',') && quote_ == 0) {
+      write_byte('\n');
+      write_byte(' ');
+      column_ = 1;
+    }
+  }
+}
+
+void Workspace::indent_in() {
+  indent_ += indent_step;
+  if (indent_ > indent_limit || indent_ > output_width / 2) indent_ = 0;
+}
+
+void Workspace::indent_out() {
+  indent_ -= indent_step;
+  if (indent_ < 0) indent_ = 0;
+}
+
+int Workspace::new_fragment() {
+  code.emplace_back();
+  return code_cnt() - 1;
+}
+
+std::string& Workspace::fragment_text(int sub) {
+  CodeFragment& f = code.at(static_cast<size_t>(sub));
+  return f.in_work_text ? wtext : f.text;
+}
+
+void Workspace::take_work_text(int sub) {
+  if (!(wtext_has_user_ == 'n')) internal_check_failed("wtext_has_user == 'n'", source_name, __LINE__);
+  CodeFragment& f = code.at(static_cast<size_t>(sub));
+  wtext.assign(f.text);
+  std::string().swap(f.text);
+  f.in_work_text = true;
+  wtext_has_user_ = 'y';
+}
+
+void Workspace::release_work_text(int sub) {
+  bool ok = wtext_has_user_ == 'y' && sub >= 0 && sub < code_cnt() &&
+            code[static_cast<size_t>(sub)].in_work_text;
+  if (!ok)
+    internal_check_failed("wtext_has_user == 'y' && code[sub].text == wtext", source_name, __LINE__);
+  CodeFragment& f = code[static_cast<size_t>(sub)];
+  f.text.reserve(wtext.size() + 1);
+  f.text.assign(wtext);
+  f.in_work_text = false;
+  wtext_has_user_ = 'n';
+}
+
+void Workspace::truncate_fragments(int new_cnt) {
+  if (!(new_cnt >= 0 && new_cnt <= code_cnt()))
+    internal_check_failed("new_cnt >= 0 && new_cnt <= code_cnt", source_name, __LINE__);
+  while (code_cnt() > new_cnt) {
+    if (code.back().in_work_text) wtext_has_user_ = 'n';
+    code.pop_back();
+  }
+}
+
+int Workspace::new_merge_slot(const std::string* data) {
+  if (merge_.size() == merge_.capacity()) merge_.reserve(merge_.size() + merge_growth);
+  merge_.push_back({data, nullptr});
+  return merge_count() - 1;
+}
+
+void Workspace::move_to_own(int slot) {
+  MergeSlot& m = merge_[static_cast<size_t>(slot)];
+  m.own = std::make_unique<std::string>(*m.data);
+  m.data = m.own.get();
+}
+
+void Workspace::write_marker(int slot) {
+  if (diag_.errors > 0) return;
+  std::FILE* saved = file_;
+  file_ = work_file_;
+  write_file("", strf("\n#merge %d\n", slot));
+  file_ = saved;
+}
+
+void Workspace::start_output() {
+  if (output_started_ == 'y') return;
+  globals.clear();
+  globals_slot_ = new_merge_slot(&globals);
+  output_started_ = 'y';
+  write_marker(globals_slot_);
+}
+
+void Workspace::start_function() {
+  if (curr_wd_locals_ >= 0) {
+    bool ok = merge_[static_cast<size_t>(curr_wd_locals_)].data == &wd_locals &&
+              merge_[static_cast<size_t>(curr_wd_init_code_)].data == &wd_init_code;
+    if (!ok)
+      internal_check_failed(
+          "merge[curr_wd_locals].data == wd_locals && merge[curr_wd_init_code].data == wd_init_code",
+          source_name, __LINE__);
+    move_to_own(curr_wd_locals_);
+    move_to_own(curr_wd_init_code_);
+  }
+  wd_locals.clear();
+  wd_init_code.clear();
+  curr_wd_locals_ = new_merge_slot(&wd_locals);
+  curr_wd_init_code_ = new_merge_slot(&wd_init_code);
+}
+
+void Workspace::open_function_body() {
+  YCC_CHECK(curr_wd_locals_ >= 0, source_name);
+  write_marker(curr_wd_locals_);
+  write_marker(curr_wd_init_code_);
+}
+
+void Workspace::start_resize_function(std::string_view header) {
+  // The previous resize function's locals keep their text; the buffer is reused.
+  if (resize_slot_ >= 0 && merge_[static_cast<size_t>(resize_slot_)].data == &resize_locals)
+    move_to_own(resize_slot_);
+  resize_locals.clear();
+  resize_slot_ = new_merge_slot(&resize_locals);
+  if (diag_.errors > 0) return;
+  deferred += strf("\n\n%.*s\n{\n#merge %d\n", static_cast<int>(header.size()), header.data(),
+                   resize_slot_);
+}
+
+void Workspace::push_block(int first_symbol) { blocks_.push_back({first_symbol, 'n'}); }
+
+void Workspace::open_block_brace() {
+  if (blocks_.empty() || blocks_.back().opened == 'y') return;
+  blocks_.back().opened = 'y';
+  put_text('n', "\n{");
+}
+
+bool Workspace::pop_block() {
+  YCC_CHECK(!blocks_.empty(), source_name);
+  bool opened = blocks_.back().opened == 'y';
+  blocks_.pop_back();
+  return opened;
+}
+
+bool RegionFilter::keep(std::string_view line) {
+  bool control = line.starts_with("##");
+  char letter = line.size() > 2 ? line[2] : '\0';
+  switch (kind_) {
+    case Kind::none:
+      if (!control) return true;
+      part2_ = false;
+      if (letter == 'a' || letter == 'm' || letter == 'd') {
+        kind_ = Kind::bounds;
+        keep_part1_ = letter == 'd';
+      } else if (letter == 'e' || letter == 'n' || letter == 'g') {
+        kind_ = Kind::occurs;
+        keep_lines_ = letter == 'g';
+      } else if (letter == 'h' || letter == 'o' || letter == 'k') {
+        kind_ = Kind::third;
+        keep_part1_ = letter == 'k';
+      }
+      return false;
+    case Kind::bounds:
+      if (control && letter == 'b') {
+        // Without bounds checks the rest is ordinary text and "##c" unknown.
+        if (bounds_checks_)
+          part2_ = true;
+        else
+          kind_ = Kind::none;
+        return false;
+      }
+      if (control && letter == 'c') {
+        kind_ = Kind::none;
+        return false;
+      }
+      return part2_ != keep_part1_;
+    case Kind::occurs:
+      if (control && letter == 'f') {
+        kind_ = Kind::none;
+        return false;
+      }
+      return keep_lines_;
+    case Kind::third:
+      if (control && letter == 'i') {
+        part2_ = true;
+        return false;
+      }
+      if (control && letter == 'j') {
+        kind_ = Kind::none;
+        return false;
+      }
+      return part2_ != keep_part1_;
+  }
+  return true;
+}
+
+}  // namespace ycc

@@ -1,0 +1,183 @@
+// The code workspace: the only way generated C text is produced. Text goes,
+// in source order, to a temporary work file; text that must stand earlier
+// than where it becomes known (globals, a function's locals and init code,
+// resize-function locals) is collected in numbered merge slots, and the work
+// file carries "#merge N" marker lines where it belongs. At the end of a file
+// without errors the output C file is assembled from both.
+#pragma once
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/options.h"
+#include "diag/diagnostics.h"
+
+namespace ycc {
+
+// One code fragment of an expression or statement. Its text lives either in
+// `text` or, while taken, in the workspace's work text. The other fields
+// belong to the translation of statements and expressions.
+struct CodeFragment {
+  std::string text;
+  std::string value;
+  std::string extra;
+  bool in_work_text = false;
+};
+
+// A merge slot: its text is one of the workspace's slot buffers while that is
+// still being filled, later a heap copy of its own.
+struct MergeSlot {
+  const std::string* data = nullptr;
+  std::unique_ptr<std::string> own;
+  size_t length() const { return data ? data->size() : 0; }
+};
+
+class Workspace {
+ public:
+  static constexpr int output_width = 72;
+  static constexpr int indent_step = 3;
+  static constexpr int indent_limit = 60;
+  static constexpr int fragment_growth = 20;
+  static constexpr int merge_growth = 1000;
+
+  // Set up once per run from /H; buffer sizes are reserved capacity only.
+  Workspace(const Options& options, Diagnostics& diag);
+
+  // Per file: the anonymous temporary work file that put_text writes to.
+  void attach_work_file(std::FILE* f) { work_file_ = f; }
+  // After each file: every text emptied, counts 0, flags 'n'.
+  void reset();
+  // The file's generated-names prefix, used in the meta record type names.
+  void set_prefix(const std::string& prefix) { prefix_ = prefix; }
+
+  // Writes generated text (Algorithms of the writer): nothing once the file
+  // has an error; newline_bgn 'y' starts a new line at the indentation.
+  void put_text(char newline_bgn, std::string_view text);
+  void indent_in();
+  void indent_out();
+  int indentation() const { return indent_; }
+  int column() const { return column_; }
+
+  // Destinations of put_text, tried in this order before the work file.
+  bool to_deferred = false;
+  bool to_function_exit = false;
+  bool to_fragment = false;
+
+  // Code fragments.
+  std::vector<CodeFragment> code;
+  int code_cnt() const { return static_cast<int>(code.size()); }
+  int new_fragment();
+  std::string& fragment_text(int sub);
+  void take_work_text(int sub);
+  void release_work_text(int sub);
+  void truncate_fragments(int new_cnt);
+  char wtext_has_user() const { return wtext_has_user_; }
+
+  // Merge slots.
+  int new_merge_slot(const std::string* data);
+  const MergeSlot& merge(int n) const { return merge_[static_cast<size_t>(n)]; }
+  int merge_count() const { return static_cast<int>(merge_.size()); }
+  // The first declaration of a file: globals slot and its marker.
+  void start_output();
+  bool output_started() const { return output_started_ == 'y'; }
+  int globals_slot() const { return globals_slot_; }
+  // After a function definition's header: the two slots of the function.
+  void start_function();
+  // At the opening of the function body: the markers of both slots.
+  void open_function_body();
+  int curr_wd_locals() const { return curr_wd_locals_; }
+  int curr_wd_init_code() const { return curr_wd_init_code_; }
+  // A generated resize function, opened in the deferred-functions text.
+  void start_resize_function(std::string_view header);
+
+  // Nested blocks: the brace is written with the first declaration inside.
+  void push_block(int first_symbol);
+  void open_block_brace();
+  // Returns whether the closed block's brace had been written.
+  bool pop_block();
+  int block_depth() const { return static_cast<int>(blocks_.size()); }
+  int block_first_symbol() const { return blocks_.empty() ? 0 : blocks_.back().first_symbol; }
+
+  // Per-file facts the assembly and the compile pass read.
+  void note_emitted() { ++emitted_; }
+  bool nothing_emitted() const { return output_started_ == 'n' && emitted_ == 0; }
+  void note_dimensions(int d) { max_dimensions_ = std::max(max_dimensions_, d); }
+
+  // Generators of the support functions; they append to the deferred text.
+  std::function<void(Workspace&)> generate_out_of_memory;
+  std::function<void(Workspace&)> generate_bounds_exceeded;
+
+  // Assembles the output C file; with errors it holds a single newline.
+  void assemble(const std::string& output_name);
+
+  // The texts; slot texts are read through the merge table.
+  std::string wtext;
+  std::string wtext2;
+  std::string globals;
+  std::string wd_locals;
+  std::string resize_locals;
+  std::string wd_init_code;
+  std::string function_exit;
+  std::string deferred;
+  std::string function_extra;
+  std::string scratch[4];
+
+  const Options& options() const { return options_; }
+  Diagnostics& diag() { return diag_; }
+
+ private:
+  struct Block {
+    int first_symbol;
+    char opened;
+  };
+  // Writes to the current file with the 72-column breaking.
+  void write_file(std::string_view prefix, std::string_view text);
+  void write_byte(char c);
+  void write_marker(int slot);
+  void copy_work_file(std::FILE* out, const std::string& output_name);
+  void move_to_own(int slot);
+
+  const Options& options_;
+  Diagnostics& diag_;
+  std::FILE* work_file_ = nullptr;
+  std::FILE* file_ = nullptr;  // where put_text writes: work file or, briefly, output
+  std::string output_name_;    // set while the output file is written
+  std::string prefix_ = "zz";
+  int indent_ = 0;
+  int column_ = 0;
+  char quote_ = 0;  // open quote character, 0 outside literals
+  int backslashes_ = 0;
+  char wtext_has_user_ = 'n';
+  std::vector<MergeSlot> merge_;
+  char output_started_ = 'n';
+  int globals_slot_ = -1;
+  int curr_wd_locals_ = -1;
+  int curr_wd_init_code_ = -1;
+  int resize_slot_ = -1;
+  std::vector<Block> blocks_;
+  int emitted_ = 0;
+  int max_dimensions_ = 0;
+};
+
+// The conditional-region filter of the assembly: decides line by line which
+// lines of the work text reach the output. Control lines start with "##".
+class RegionFilter {
+ public:
+  explicit RegionFilter(bool bounds_checks) : bounds_checks_(bounds_checks) {}
+  // Whether the line (without its newline) is written.
+  bool keep(std::string_view line);
+
+ private:
+  enum class Kind { none, bounds, occurs, third };
+  Kind kind_ = Kind::none;
+  bool part2_ = false;
+  bool keep_part1_ = false;  // bounds and third kinds: which part is kept
+  bool keep_lines_ = false;  // occurs kind
+  bool bounds_checks_;
+};
+
+}  // namespace ycc

@@ -1,0 +1,271 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "front/lexer.h"
+#include "front/syntax_errors.h"
+
+namespace ycc {
+namespace {
+
+// "NAME:text" for each token before Eof.
+std::string describe(const TokenBuffer& b) {
+  std::string out;
+  for (const Token& t : b.tokens) {
+    if (t.tok == T_Eof) break;
+    if (!out.empty()) out += ' ';
+    out += std::string(token_name(t.tok)) + ":" + std::string(t.text);
+  }
+  return out;
+}
+
+struct LexCase {
+  const char* input;
+  const char* tokens;
+};
+
+class LexTokens : public ::testing::TestWithParam<LexCase> {};
+
+TEST_P(LexTokens, Splits) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize(GetParam().input, files, err);
+  EXPECT_EQ(describe(b), GetParam().tokens) << "input: " << GetParam().input;
+  EXPECT_EQ(err.str(), "");
+  ASSERT_FALSE(b.tokens.empty());
+  EXPECT_EQ(b.tokens.back().tok, T_Eof);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, LexTokens,
+    ::testing::Values(
+        LexCase{"a===b", "IDENTIFIER:a MOVE:=== IDENTIFIER:b"},
+        LexCase{"a====b", "IDENTIFIER:a MOVE:=== ASSIGNEQUAL:= IDENTIFIER:b"},
+        LexCase{"a==b", "IDENTIFIER:a EQUAL:== IDENTIFIER:b"},
+        LexCase{"a=b", "IDENTIFIER:a ASSIGNEQUAL:= IDENTIFIER:b"},
+        LexCase{"1UL 1LU 0x1fU 1.5e+3L", "DECIMALINT:1UL DECIMALINT:1LU HEXADECIMAL:0x1fU FLOATONE:1.5e+3L"},
+        LexCase{"1ul", "DECIMALINT:1 IDENTIFIER:ul"},
+        LexCase{"1u", "DECIMALINT:1 IDENTIFIER:u"},
+        LexCase{"1ULL", "DECIMALINT:1UL IDENTIFIER:L"},
+        LexCase{"0x", "DECIMALINT:0 IDENTIFIER:x"},
+        LexCase{"0xg", "DECIMALINT:0 IDENTIFIER:xg"},
+        LexCase{"0XABCdefL", "HEXADECIMAL:0XABCdefL"},
+        LexCase{"07 123abc", "DECIMALINT:07 DECIMALINT:123 IDENTIFIER:abc"},
+        LexCase{"1.5 1. .5 1.F", "FLOATONE:1.5 FLOATONE:1. FLOATONE:.5 FLOATONE:1.F"},
+        LexCase{"1e5 1E-2 1e5F 1e", "FLOATTWO:1e5 FLOATTWO:1E-2 FLOATTWO:1e5F DECIMALINT:1 IDENTIFIER:e"},
+        LexCase{"1.5f 1.5U", "FLOATONE:1.5 IDENTIFIER:f FLOATONE:1.5 IDENTIFIER:U"},
+        LexCase{"a.b ... .. .", "IDENTIFIER:a DOT:. IDENTIFIER:b ELLIPSIS:... DOT:. DOT:. DOT:."},
+        LexCase{"While while added_length added_lengthx", "IDENTIFIER:While WHILE:while ADDED_LENGTH:added_length IDENTIFIER:added_lengthx"},
+        LexCase{"void const union _x1", "IDENTIFIER:void IDENTIFIER:const IDENTIFIER:union IDENTIFIER:_x1"},
+        LexCase{"<<= >>= <= >= << >> < >", "SHIFTLEFTEQUAL:<<= SHIFTRIGHTEQUAL:>>= LESSTHANOREQUALTO:<= GREATERTHANOREQUALTO:>= SHIFTLEFT:<< SHIFTRIGHT:>> LESSTHAN:< GREATERTHAN:>"},
+        LexCase{"&&& ||| ++- --+ != !", "AND:&& BITWISEAND:& OR:|| BITWISEOR:| PLUSPLUS:++ MINUS:- MINUSMINUS:-- PLUS:+ NOTEQUAL:!= NOT:!"},
+        LexCase{"*= /= %= += -= &= ^= |= ~ ^ ? : ; , { } [ ] ( )", "TIMESEQUAL:*= DIVIDEEQUAL:/= MODEQUAL:%= PLUSEQUAL:+= MINUSEQUAL:-= BITWISEANDEQUAL:&= BITWISEXOREQUAL:^= BITWISEOREQUAL:|= ONESCOMPLEMENT:~ BITWISEXOR:^ QUESTIONMARK:? COLON:: SEMICOLON:; COMMA:, LCURLYBRACE:{ RCURLYBRACE:} LSQUAREBRACKET:[ RSQUAREBRACKET:] LPARENTHESIS:( RPARENTHESIS:)"},
+        LexCase{"a/*x\ny*/b//c\nd", "IDENTIFIER:a IDENTIFIER:b IDENTIFIER:d"},
+        LexCase{"a /* never closed", "IDENTIFIER:a"},
+        LexCase{"#$@\\` x # y", "GARBAGE:#$@\\` IDENTIFIER:x GARBAGE:# IDENTIFIER:y"},
+        LexCase{"\"a\\\"b\\\\\" c", "STRING:\"a\\\"b\\\\\" IDENTIFIER:c"},
+        LexCase{"\"cut\nx", "STRING:\"cut IDENTIFIER:x"},
+        LexCase{"'\\'' '\\\\' 'a'", "CHARACTER:'\\'' CHARACTER:'\\\\' CHARACTER:'a'"},
+        LexCase{"'cut\nx", "CHARACTER:'cut IDENTIFIER:x"},
+        LexCase{"\"/* not a comment */\"", "STRING:\"/* not a comment */\""}));
+
+// Line codes of each token before Eof.
+std::vector<int> lines_of(const TokenBuffer& b) {
+  std::vector<int> out;
+  for (const Token& t : b.tokens)
+    if (t.tok != T_Eof) out.push_back(t.line);
+  return out;
+}
+
+TEST(LexLines, NewlinesAndCutConstantsCount) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("a\n\"s\nb 'c\nd /*\n\n*/ e // x\nf", files, err);
+  EXPECT_EQ(lines_of(b), (std::vector<int>{0, 1, 2, 2, 3, 5, 6}));
+  EXPECT_EQ(b.tokens.back().line, 6);
+}
+
+TEST(LexLines, LineMarkerWithFileName) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\nx\ny\n#line 10 \"b.h\"\nz\n#line 3 \"a.yc\"\nw", files, err);
+  EXPECT_EQ(files.name(1), "a.yc");
+  EXPECT_EQ(files.name(2), "b.h");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000002, 2000010, 1000003}));
+}
+
+TEST(LexLines, LineMarkerWithoutNameKeepsFile) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\nx\n#line 40\ny\n#line\t7\nz", files, err);
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000040, 1000007}));
+}
+
+TEST(LexLines, NamesKeepTheirIndexAcrossFiles) {
+  FileTable files;
+  std::ostringstream err;
+  tokenize("\n#line 1 \"a.yc\"\nx\n#line 1 \"c.h\"\n", files, err);
+  TokenBuffer b = tokenize("\n#line 1 \"b.yc\"\n\n#line 5 \"c.h\"\nq", files, err);
+  EXPECT_EQ(lines_of(b), (std::vector<int>{2000005}));
+  EXPECT_EQ(files.size(), 4);
+}
+
+TEST(LexLines, HashLineNeedsABlankAndALineStart) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("#line 5\n#line5\nx #line 9\ny", files, err);
+  EXPECT_EQ(describe(b), "GARBAGE:# IDENTIFIER:line5 IDENTIFIER:x GARBAGE:# IDENTIFIER:line DECIMALINT:9 IDENTIFIER:y");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{5, 5, 6, 6, 6, 6, 7}));
+}
+
+TEST(LexLines, DirectivesRightAfterAMarkerLine) {
+  FileTable files;
+  std::ostringstream err;
+  // A source whose line 1 is "#pragma x" and line 3 is "#line 20 "c.yc"".
+  TokenBuffer b = tokenize(
+      "\n#line 1 \"a.yc\"\n#pragma x\nint y;\n#line 20 \"c.yc\"\n#line 7\nz", files, err);
+  EXPECT_EQ(describe(b), "INT:int IDENTIFIER:y SEMICOLON:; IDENTIFIER:z");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000002, 1000002, 1000002, 2000007}));
+}
+
+TEST(LexLines, PragmaLinesAreSkippedAndCounted) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\na\n#pragma pack(1) x y\nb", files, err);
+  EXPECT_EQ(describe(b), "IDENTIFIER:a IDENTIFIER:b");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000003}));
+}
+
+TEST(LexExtern, RangeAfterLineMarker) {
+  FileTable files;
+  std::ostringstream err;
+  // The preprocessor's layout of an extern include inside a.yc.
+  TokenBuffer b = tokenize(
+      "\n#line 1 \"a.yc\"\nx\n#line 1 \"e.h\"\n#pragma extern_on\nint h1;\nint h2;\n\n"
+      "#pragma extern_off\n\n#line 2 \"a.yc\"\ny",
+      files, err);
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 2000001, 2000001, 2000001, 2000002, 2000002,
+                                           2000002, 1000002}));
+  ASSERT_EQ(b.extern_ranges.size(), 2u);
+  EXPECT_EQ(b.extern_ranges[0].begin, 2000000);
+  EXPECT_EQ(b.extern_ranges[1].end, 2000004);
+  EXPECT_FALSE(b.in_extern_range(1000001));
+  EXPECT_TRUE(b.in_extern_range(2000001));
+  EXPECT_TRUE(b.in_extern_range(2000003));
+  EXPECT_FALSE(b.in_extern_range(2000004));
+  EXPECT_FALSE(b.in_extern_range(1000002));
+}
+
+TEST(LexExtern, ExternOnAwayFromLineMarkerOpensNothing) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\nx\n#pragma extern_on\ny\n#pragma extern_off\nz", files, err);
+  EXPECT_EQ(describe(b), "IDENTIFIER:x IDENTIFIER:y IDENTIFIER:z");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000003, 1000005}));
+  EXPECT_FALSE(b.in_extern_range(1000003));
+}
+
+TEST(LexInvalid, CarriageReturnReportsRawLineCode) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\n\nx\r\ny", files, err);
+  EXPECT_EQ(err.str(), "invalid token near line 1000002 (text was '\r')\n");
+  EXPECT_EQ(describe(b), "IDENTIFIER:x IDENTIFIER:y");
+}
+
+TEST(LexInvalid, EachBadByteReportedAndSkipped) {
+  FileTable files;
+  std::ostringstream err;
+  std::string input = std::string("a\f\v") + '\0' + "\x7f\xe9" + "b";
+  TokenBuffer b = tokenize(input, files, err);
+  EXPECT_EQ(describe(b), "IDENTIFIER:a IDENTIFIER:b");
+  std::string expected;
+  for (char c : std::string("\f\v") + '\0' + "\x7f\xe9")
+    expected += std::string("invalid token near line 0 (text was '") + c + "')\n";
+  EXPECT_EQ(err.str(), expected);
+}
+
+TEST(LexLimits, VeryLongTokenKeptWhole) {
+  FileTable files;
+  std::ostringstream err;
+  std::string ident(50000, 'q');
+  std::string str = "\"" + std::string(30000, 'z') + "\"";
+  TokenBuffer b = tokenize(ident + " " + str, files, err);
+  ASSERT_EQ(b.tokens.size(), 3u);
+  EXPECT_EQ(b.tokens[0].text, ident);
+  EXPECT_EQ(b.tokens[1].text, str);
+  EXPECT_EQ(b.tokens[1].text.data()[b.tokens[1].text.size()], '\0');
+}
+
+TEST(LexLimits, HugeLineNumbersDoNotOverflow) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("\n#line 99999999999999999999 \"a\"\nx\n\n\ny", files, err);
+  ASSERT_EQ(b.tokens.size(), 3u);
+  EXPECT_GE(b.tokens[1].line, b.tokens[0].line);
+}
+
+TEST(LexLimits, EmptyInputIsJustEof) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize("", files, err);
+  ASSERT_EQ(b.tokens.size(), 1u);
+  EXPECT_EQ(b.tokens[0].tok, T_Eof);
+  EXPECT_EQ(b.tokens[0].text, "");
+}
+
+struct SyntaxFixture {
+  Options options;
+  std::ostringstream err;
+  Diagnostics diag{err, options};
+  SyntaxErrors syntax{diag};
+  SyntaxFixture() { diag.files().intern("a.yc"); }
+};
+
+TEST(SyntaxErrorMessages, OncePerLineAndFlushedAtOnce) {
+  SyntaxFixture f;
+  f.diag.begin_compile();
+  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000003});
+  EXPECT_EQ(f.err.str(), "\n (line) in 'a.yc'\n (3) **error: syntax error at or before 'x'\n");
+  f.syntax.at_or_before({T_SEMICOLON, ";", 1000003});
+  f.syntax.at_or_before({T_Eof, "", 1000004});
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'a.yc'\n (3) **error: syntax error at or before 'x'\n"
+            " (4) **error: syntax error at or before 'end of file'\n");
+  EXPECT_EQ(f.diag.errors, 2);
+}
+
+TEST(SyntaxErrorMessages, LongTokenCutTo40) {
+  SyntaxFixture f;
+  f.options.width = 200;
+  f.diag.begin_compile();
+  std::string text(60, 'k');
+  f.syntax.at_or_before({T_IDENTIFIER, text, 1000001});
+  EXPECT_NE(f.err.str().find("'" + std::string(40, 'k') + "'"), std::string::npos);
+  EXPECT_EQ(f.err.str().find(std::string(41, 'k')), std::string::npos);
+}
+
+TEST(SyntaxErrorMessages, TypeMessageHasItsOwnLineMemory) {
+  SyntaxFixture f;
+  f.diag.begin_compile();
+  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000002});
+  f.syntax.expecting_type({T_IDENTIFIER, "x", 1000002});
+  f.syntax.expecting_type({T_IDENTIFIER, "y", 1000002});
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before 'x'\n"
+            " (2) **error: syntax error: expecting a type or typedef name, but\n"
+            "              found 'x'\n");
+}
+
+TEST(SyntaxErrorMessages, CountsTowardsTheErrorLimit) {
+  SyntaxFixture f;
+  f.options.error_limit = 2;
+  f.diag.begin_compile();
+  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000001});
+  EXPECT_THROW(f.syntax.at_or_before({T_IDENTIFIER, "y", 1000002}), CompileHalt);
+}
+
+}  // namespace
+}  // namespace ycc
