@@ -146,7 +146,6 @@ void Preprocessor::conditional(const std::string& name, const std::string& rest,
         }
       }
     }
-    // Top() may have moved? No: the file stack does not change inside a line.
     e.conds.push_back({kind, false, value || !active, value, active, line});
     return;
   }
