@@ -45,7 +45,7 @@ TEST(Reader, Tokens) {
        {"x/2/1/2"},
        {"1:found '/*' further down inside this comment: nested comments are not allowed",
         "2:found '/*' further down inside this comment: nested comments are not allowed"}},
-      {"x /* open\n\n", {"x/0/0/1"}, {"1:missing end of comment: '*/'"}},
+      {"x /* open\n\n", {"x/0/0/1"}, {"2:missing end of comment: '*/'"}},
       {"a\r\nb\n", {"a/0/0/1", "b/0/1/2"}, {}},
       {"", {}, {}},
   };
