@@ -33,7 +33,8 @@ void Writer::token(std::string_view text, int blanks, bool is_string) {
   pending_newlines = 0;
   out.append(static_cast<size_t>(blanks), ' ');
   out.append(text);
-  string_open_ = is_string;
+  // Only a closed literal takes part in joining.
+  string_open_ = is_string && text.size() >= 2 && text.back() == '"';
 }
 
 void Writer::expansion(std::string_view s, int blanks) {

@@ -131,6 +131,8 @@ TEST(IntermediateText, Layout) {
     EXPECT_EQ(r.messages, "") << c.source;
   }
   EXPECT_EQ(run_pp("").text, "\n#line 1 \"a.yc\"\n\n");
+  // An unclosed literal is not joined with the next one.
+  EXPECT_EQ(body(run_pp("\"ab\n\"cd\"\n")), "\"ab\n\"cd\"\n");
 }
 
 }  // namespace
