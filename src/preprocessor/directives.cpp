@@ -146,7 +146,6 @@ void Preprocessor::conditional(const std::string& name, const std::string& rest,
         }
       }
     }
-    // Top() may have moved? No: the file stack does not change inside a line.
     e.conds.push_back({kind, false, value || !active, value, active, line});
     return;
   }
@@ -281,6 +280,12 @@ void Preprocessor::define(const std::string& rest) {
   m.params = std::move(params);
   m.replacement = std::move(replacement);
   index_params(m);
+  // Without parameters the joins of "##" are the same at every use.
+  if (!function_like && m.replacement.find("##") != std::string::npos) {
+    std::string joined;
+    expander_.substitute(m, {}, joined);
+    m.replacement = std::move(joined);
+  }
 }
 
 void Preprocessor::undef(const std::string& rest) {
@@ -297,8 +302,11 @@ void Preprocessor::undef(const std::string& rest) {
     report(cur_line_, strf("'%s' is a built-in macro name: it cannot be undefined", name.c_str()));
     return;
   }
+  if (!trim(r.substr(e)).empty()) {
+    extra_text(r.substr(e));
+    return;
+  }
   table_.undefine(name);
-  extra_text(r.substr(e));
 }
 
 void Preprocessor::include(const std::string& rest) {

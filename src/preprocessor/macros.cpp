@@ -252,6 +252,9 @@ std::string Expander::run(std::string_view text, Macro* owner) {
     std::string_view text;
     size_t pos;
     Macro* macro;
+    // An argument list ran to the end of this text: later function-like
+    // names in it are copied, as reading each to the end again could be slow.
+    bool no_calls = false;
   };
   std::string out;
   std::vector<Frame> frames;
@@ -303,10 +306,15 @@ std::string Expander::run(std::string_view text, Macro* owner) {
       frames.push_back({nullptr, m->replacement, 0, m});
       continue;
     }
+    if (f.no_calls) {
+      out.append(name);
+      continue;
+    }
     size_t p = e;
     ArgFault fault = text_args(*m, t, p, args);
     if (fault != ArgFault::none) {
       hooks_.report(arg_fault_text(fault, *m, false, "", 0));
+      if (fault == ArgFault::incomplete || fault == ArgFault::unbalanced) f.no_calls = true;
       out.append(name);
       continue;
     }

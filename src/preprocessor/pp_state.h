@@ -34,6 +34,9 @@ struct FileEntry {
   bool is_extern;
   bool first_token = true;
   int errors_at_open = 0;
+  // An invocation ran to the end of this file: later function-like names are
+  // copied, so that a file of open invocations is not read to its end again and again.
+  bool no_calls = false;
   std::vector<Cond> conds;
 
   bool active() const {

@@ -33,7 +33,8 @@ void Writer::token(std::string_view text, int blanks, bool is_string) {
   pending_newlines = 0;
   out.append(static_cast<size_t>(blanks), ' ');
   out.append(text);
-  string_open_ = is_string;
+  // Only a closed literal takes part in joining.
+  string_open_ = is_string && text.size() >= 2 && text.back() == '"';
 }
 
 void Writer::expansion(std::string_view s, int blanks) {
@@ -154,6 +155,10 @@ void Preprocessor::end_of_file() {
 }
 
 void Preprocessor::write_intermediate() {
+  if (job_.intermediate_name.empty()) {
+    job_.intermediate_text = std::move(writer_.out);
+    return;
+  }
   std::FILE* f = std::fopen(host_path(job_.intermediate_name).c_str(), "wb");
   if (!f) {
     report(top().reader.last_line(), strf("output file '%s' : %s", job_.intermediate_name.c_str(),
@@ -226,6 +231,10 @@ void Preprocessor::invocation(Macro& m, const Token& name_tok) {
   std::string name(name_tok.text);
   int name_blanks = name_tok.blanks;
   int name_line = name_tok.line;
+  if (e.no_calls) {
+    writer_.token(name, name_blanks, false);
+    return;
+  }
   Reader::State after_name = e.reader.save();
   Token open = e.reader.next(true);
   if (open.kind != Tok::punct || open.text != "(") {
@@ -243,6 +252,7 @@ void Preprocessor::invocation(Macro& m, const Token& name_tok) {
     Token t = e.reader.next(true);
     if (t.kind == Tok::end) {
       fault = col.at_end();
+      e.no_calls = true;
       break;
     }
     newlines += t.newlines;

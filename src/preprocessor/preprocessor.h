@@ -17,6 +17,8 @@ struct PpJob {
   char compile_flag = 'y';        // /T may turn 'n' into 'y'
   std::int64_t output_time = 0;   // modification time of the existing output, or 0
   bool intermediate_written = false;
+  // With no intermediate name the text stays here instead of in a file.
+  std::string intermediate_text;
 };
 
 // Runs the preprocessor over one file. Messages go through `diag`; an early

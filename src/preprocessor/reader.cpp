@@ -36,12 +36,12 @@ void Reader::report_at(size_t pos, int line, const std::string& text) {
 
 void Reader::skip_block_comment(int& blanks, int& newlines) {
   size_t start = pos_;
-  int start_line = line_;
   pos_ += 2;
   int inner_newlines = 0;
   for (;;) {
     if (pos_ >= t_.size()) {
-      report_at(start, start_line, strf("missing end of comment: '*%c'", '/'));
+      // Like an open conditional, an open comment is reported at the last line.
+      report_at(start, last_line(), strf("missing end of comment: '*%c'", '/'));
       break;
     }
     char c = t_[pos_];

@@ -5,6 +5,7 @@
 int  a = 1;
 char *s = "onetwothree" 
           ;
+
 char *p = "a /* not a comment */ b";
 int b = 1 +         2;
 
