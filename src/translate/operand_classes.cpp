@@ -169,6 +169,7 @@ void Translator::fill_from_symbol(Entry& e, int sub) {
     case 'd':
       e.kind = 'd';
       e.type_sym = sub;
+      e.value = emit_.function_name(sub);
       if (find_library_function(s.name) >= 0 && s.name != "main")
         report(e, strf("'%s' : the names of YARL C library functions are reserved and cannot be "
                        "used as function pointers",

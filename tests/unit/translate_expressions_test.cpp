@@ -197,6 +197,17 @@ TEST(TranslateExpressions, EnumerationAndFunctionComparisons) {
                                   "types, with the sole exception of comparison with literal 0 (zero)"}));
 }
 
+TEST(TranslateExpressions, FunctionNamesAsValues) {
+  TranslateRun t;
+  EXPECT_EQ(t.run("g() int r;\ng() int r\n{\nr = 0;\nif (g != 0) r = 2;\n}\n"),
+            "\nr = 0;\nif(!(g != 0)) goto zzzz_false1;\nr = 2;\nzzzz_false1:");
+  TranslateRun u;
+  u.run("fabs(double x) double y;\ng() int r;\ng() int r\n{\nr = 0;\nif (fabs == 0) r = 1;\n}\n");
+  EXPECT_EQ(u.message_list(), (std::vector<std::string>{
+                                  "5 error: 'fabs' : the names of YARL C library functions are reserved "
+                                  "and cannot be used as function pointers"}));
+}
+
 TEST(TranslateExpressions, AFailedOperandIsReportedOnce) {
   TranslateRun t;
   t.run(in_function("struct point s;\nr = s + 1 + 2 * 3;\nif (s && a) r = 1;",

@@ -84,6 +84,23 @@ TEST(TranslateStatements, ConsecutiveCaseLabelsGetOneBreak) {
             "\nswitch(a)\n{\nbreak;\ncase 1:\ncase 2:\nx = 1;\nbreak;\ncase -3:\nx = 2;\n;}");
 }
 
+TEST(TranslateStatements, StatementLabelsAndHandlersInASwitchSetNoBreak) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("switch (a) { top: x = 1; case 1: inner: x = 2; exception 3: x = 3; }\ngoto top;"
+                              "\ngoto inner;")),
+            "\nswitch(a)\n{\ntop:\nx = 1;\nbreak;\ncase 1:\ninner:\nx = 2;\nzzzz_exception3:\nx = 3;\n;}"
+            "\ngoto top;\ngoto inner;");
+  EXPECT_EQ(t.messages(), "");
+}
+
+TEST(TranslateStatements, NestedSwitchesKeepTheirOwnCases) {
+  TranslateRun t;
+  EXPECT_EQ(t.run(in_function("switch (a) { case 1: switch (b) { case 1: x = 1; } case 2: x = 2; }")),
+            "\nswitch(a)\n{\nbreak;\ncase 1:\nswitch(b)\n{\nbreak;\ncase 1:\nx = 1;\n;}\nbreak;"
+            "\ncase 2:\nx = 2;\n;}");
+  EXPECT_EQ(t.messages(), "");
+}
+
 TEST(TranslateStatements, CaseLabelForms) {
   TranslateRun t;
   EXPECT_EQ(t.run(in_function("switch (a) { case 'a': x = 1; case 0x10: x = 2; case 2 * 3 + 1: x = 3; }")),
