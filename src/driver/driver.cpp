@@ -8,6 +8,7 @@
 #include "diag/diagnostics.h"
 #include "driver/command_line.h"
 #include "front/compile_pass.h"
+#include "front/parser.h"
 #include "preprocessor/preprocessor.h"
 
 namespace ycc {
@@ -120,6 +121,12 @@ int run_compiler(const std::vector<std::string>& args, std::ostream& out, std::o
   } catch (const FatalError& f) {
     out.flush();
     err << f.report;
+  } catch (const ParserOverflow& f) {
+    // The parser's resource failures end the run with status -1 (255).
+    out.flush();
+    err << f.report;
+    err.flush();
+    return 255;
   }
   err.flush();
   return 1;
