@@ -225,6 +225,7 @@ void TraceActions::const_error_operand(const Token& t) { line("const_error_opera
 
 ParseResult parse_source(std::string_view source, bool show_lines) {
   Options options;
+  options.width = 1000;  // one message, one line
   std::ostringstream err;
   Diagnostics diag(err, options);
   diag.begin_compile();
