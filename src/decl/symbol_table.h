@@ -52,8 +52,11 @@ struct Symbol {
   std::vector<int> vf;      // members that are spaces or nest spaces
   char vf_flags[3] = {'n', 'n', 'n'};  // has varspace, has fixed-space, has 1-D fixed-space
   char contains_fun_ptr = 'n';
+  char complete = 'y';      // 'n' for a tag named ahead of its body
   int ref_count = 0;
   int resize_count = 0;
+  int initial_occurs = 0;   // elements an initializer filled (one-dimensional fixed-spaces)
+  int line = 0;             // where the entry was declared
 
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }
@@ -79,6 +82,8 @@ class SymbolTable {
   static std::string stored_name(std::string_view name) {
     return std::string(name.substr(0, std::min(name.size(), name_limit)));
   }
+  // Drops the newest entry, which must not be indexed.
+  void drop_last() { symbols_.pop_back(); }
   // Gives an entry an anonymous name (never matched by lookups).
   void make_anonymous(int sub);
 

@@ -75,7 +75,7 @@ void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
     try {
       diag.error(end_line, "there are no valid declarations or functions");
     } catch (const CompileHalt&) {
-      // The file is over anyway: the limit is announced once.
+      // Step 9 runs after a halt too; the limit is announced once.
       diag.flush();
       if (!was_halted) diag.err() << halted;
     }

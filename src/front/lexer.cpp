@@ -67,7 +67,7 @@ class Lexer {
     size_t nl = s_.find('\n', i);
     return nl == std::string_view::npos ? s_.size() : nl;
   }
-  // Length of "\n#pragma" + blanks + word + rest of line at i, or 0.
+  // Length of "#pragma" + blanks + word + rest of line at i, or 0.
   size_t pragma_with(size_t i, std::string_view word) const;
 
   int line_code() const {
@@ -84,6 +84,7 @@ class Lexer {
   void normal_step();
   void line_directive_step();
   void newline_in_normal();
+  void line_start();
   size_t number_end(size_t i, int& tok) const;
   size_t quoted_end(size_t i, char quote) const;
   void file_name();
@@ -123,8 +124,8 @@ void Lexer::emit(int tok, std::string_view text) {
 }
 
 size_t Lexer::pragma_with(size_t i, std::string_view word) const {
-  if (!starts(i, "\n#pragma")) return 0;
-  size_t j = i + 8;
+  if (!starts(i, "#pragma")) return 0;
+  size_t j = i + 7;
   size_t blanks = j;
   while (at(j) == ' ' || at(j) == '\t') ++j;
   if (j == blanks || !starts(j, word)) return 0;
@@ -200,24 +201,30 @@ size_t Lexer::number_end(size_t i, int& tok) const {
 }
 
 void Lexer::newline_in_normal() {
-  if (size_t n = pragma_with(pos_, "extern_off")) {
-    next_line();
-    extern_off();
-    pos_ += n;
-    return;
-  }
   if (starts(pos_, "\n#line") && (at(pos_ + 6) == ' ' || at(pos_ + 6) == '\t')) {
-    pos_ += 6;
-    while (at(pos_) == ' ' || at(pos_) == '\t') ++pos_;
-    mode_ = Mode::line_directive;
+    ++pos_;
+    line_start();
     return;
   }
   next_line();
-  if (starts(pos_, "\n#pragma")) {
-    pos_ = rest_of_line(pos_ + 1);
-    return;
-  }
   ++pos_;
+  line_start();
+}
+
+// Control lines. The preprocessor puts a newline before every marker it
+// writes, but a directive of the source may follow a "#line" line (whose
+// newline that mode consumed) or open the file, so they are also recognised
+// there; a newline consumed by line-directive mode counts no line.
+void Lexer::line_start() {
+  if (starts(pos_, "#line") && (at(pos_ + 5) == ' ' || at(pos_ + 5) == '\t')) {
+    pos_ += 5;
+    mode_ = Mode::line_directive;
+  } else if (size_t n = pragma_with(pos_, "extern_off")) {
+    extern_off();
+    pos_ += n;
+  } else if (starts(pos_, "#pragma")) {
+    pos_ = rest_of_line(pos_);
+  }
 }
 
 void Lexer::file_name() {
@@ -231,13 +238,14 @@ void Lexer::file_name() {
 void Lexer::line_directive_step() {
   char c = s_[pos_];
   if (c == '\n') {
-    if (size_t n = pragma_with(pos_, "extern_on")) {
+    if (size_t n = pragma_with(pos_ + 1, "extern_on")) {
       extern_on();
-      pos_ += n;
+      pos_ += 1 + n;
       return;
     }
     mode_ = Mode::normal;
     ++pos_;
+    line_start();
   } else if (is_digit(c)) {
     std::int64_t number = 0;
     while (is_digit(at(pos_))) {
@@ -303,6 +311,7 @@ void Lexer::normal_step() {
 }
 
 TokenBuffer Lexer::run() {
+  line_start();
   while (pos_ < s_.size()) {
     if (mode_ == Mode::normal)
       normal_step();

@@ -2,15 +2,24 @@
 // file's tokens, with the grammar actions of the compiler.
 #include "front/parse_seam.h"
 
+#include "decl/declarations.h"
 #include "front/parser.h"
 
 namespace ycc {
 
 void run_start_rule(ParseContext& ctx) {
-  // The declaration and translation actions plug in here; until then the
-  // grammar is checked with actions that do nothing.
-  Actions actions;
+  Declarations actions(ctx.options, ctx.diag, ctx.tokens, ctx.workspace);
+  struct DumpAtEnd {
+    ParseContext& ctx;
+    Declarations& actions;
+    ~DumpAtEnd() {
+      if (!ctx.options.dump_symbols) return;
+      ctx.diag.flush();  // the messages of the file first, then what the table holds
+      actions.symbols().dump(ctx.diag.err());
+    }
+  } dump{ctx, actions};
   parse_translation_unit(ctx.tokens.tokens, actions, ctx.syntax);
+  if (actions.declared_anything()) ctx.workspace.note_emitted();
 }
 
 }  // namespace ycc

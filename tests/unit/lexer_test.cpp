@@ -112,12 +112,22 @@ TEST(LexLines, NamesKeepTheirIndexAcrossFiles) {
   EXPECT_EQ(files.size(), 4);
 }
 
-TEST(LexLines, HashLineNeedsABlankAndAPrecedingNewline) {
+TEST(LexLines, HashLineNeedsABlankAndALineStart) {
   FileTable files;
   std::ostringstream err;
-  TokenBuffer b = tokenize("#line 5\n#line5\nx", files, err);
-  EXPECT_EQ(describe(b), "GARBAGE:# IDENTIFIER:line DECIMALINT:5 GARBAGE:# IDENTIFIER:line5 IDENTIFIER:x");
-  EXPECT_EQ(lines_of(b), (std::vector<int>{0, 0, 0, 1, 1, 2}));
+  TokenBuffer b = tokenize("#line 5\n#line5\nx #line 9\ny", files, err);
+  EXPECT_EQ(describe(b), "GARBAGE:# IDENTIFIER:line5 IDENTIFIER:x GARBAGE:# IDENTIFIER:line DECIMALINT:9 IDENTIFIER:y");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{5, 5, 6, 6, 6, 6, 7}));
+}
+
+TEST(LexLines, DirectivesRightAfterAMarkerLine) {
+  FileTable files;
+  std::ostringstream err;
+  // A source whose line 1 is "#pragma x" and line 3 is "#line 20 "c.yc"".
+  TokenBuffer b = tokenize(
+      "\n#line 1 \"a.yc\"\n#pragma x\nint y;\n#line 20 \"c.yc\"\n#line 7\nz", files, err);
+  EXPECT_EQ(describe(b), "INT:int IDENTIFIER:y SEMICOLON:; IDENTIFIER:z");
+  EXPECT_EQ(lines_of(b), (std::vector<int>{1000002, 1000002, 1000002, 2000007}));
 }
 
 TEST(LexLines, PragmaLinesAreSkippedAndCounted) {

@@ -1,0 +1,304 @@
+#include "decl/emit.h"
+
+#include "common/text.h"
+#include "decl/library_table.h"
+#include "decl/type_keywords.h"
+
+namespace ycc {
+
+std::string Emitter::generated(const char* word, int number) const {
+  return number >= 1 ? strf("%s%s_%s%d", prefix_.c_str(), prefix_.c_str(), word, number)
+                     : strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);
+}
+
+std::string Emitter::meta_type(int dims) const { return strf("%s%dD_meta", prefix_.c_str(), dims); }
+
+int Emitter::resolve(int type_sym) const {
+  for (int guard = 0; type_sym && symbols_[type_sym].name_is == 't' && guard < 1000; ++guard)
+    type_sym = symbols_[type_sym].type_sym;
+  return type_sym;
+}
+
+std::string Emitter::tag_name(int sub) const {
+  const Symbol& s = symbols_[sub];
+  if (s.anonymous()) return strf("%s%d_tag", prefix_.c_str(), s.serial);
+  return s.name;
+}
+
+std::string Emitter::function_name(int sub) const {
+  const std::string& n = symbols_[sub].name;
+  return find_library_function(n) >= 0 ? "_yc__" + n : n;
+}
+
+std::string Emitter::element_type(int sub) const {
+  const Symbol& s = symbols_[sub];
+  int t = resolve(s.type_sym);
+  int bits = s.type_bits;
+  if (s.type_sym && symbols_[s.type_sym].name_is == 't') bits = symbols_[s.type_sym].type_bits;
+  if (t) {
+    switch (symbols_[t].name_is) {
+      case 's': return "struct " + tag_name(t);
+      case 'e': return "enum " + tag_name(t);
+      default: break;
+    }
+  }
+  return type_words(bits);
+}
+
+std::string Emitter::fun_pointer(int fun, const std::string& name) const {
+  std::string t = "void (*" + name + ") (void *[]";
+  for (int p = fun + 1; p < symbols_.count() && symbols_[p].owner == fun; ++p)
+    if (symbols_[p].p_or_r == 'a') t += ", " + parameter(p, false);
+  if (symbols_[fun].ellipsis == 'y') t += ", ...";
+  return t + ")";
+}
+
+std::string Emitter::parameter(int sub, bool with_name) const {
+  const Symbol& s = symbols_[sub];
+  std::string name = with_name && !s.anonymous() ? s.name : "";
+  auto join = [&](const std::string& type) { return name.empty() ? type : type + " " + name; };
+  if (s.role[0] == 'a') return join("void *");
+  if (s.dim_count() > 0) return "struct " + meta_type(s.dim_count()) + " *" + name;
+  int t = resolve(s.type_sym);
+  if (t && symbols_[t].name_is == 's') return "struct " + tag_name(t) + " *" + name;
+  if (t && symbols_[t].name_is == 'n') return fun_pointer(t, name);
+  return join(element_type(sub));
+}
+
+std::string Emitter::variable_text(int sub, bool member, bool local) const {
+  const Symbol& s = symbols_[sub];
+  bool is_extern = s.storage & STORAGE_EXTERN;
+  std::string t;
+  if (s.storage & STORAGE_STATIC) t += "static ";
+  if (is_extern) t += "extern ";
+  if (s.is_var == 'y') {
+    t += "struct " + meta_type(s.dim_count()) + " " + s.name;
+    if (!is_extern && !member) t += " = {NULL}";
+    return t + ";";
+  }
+  int f = resolve(s.type_sym);
+  if (f && symbols_[f].name_is == 'n')
+    t += fun_pointer(f, s.name);
+  else
+    t += element_type(sub) + " " + s.name;
+  for (const Dimension& d : s.dims)
+    t += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
+  (void)local;
+  return t + ";";
+}
+
+std::string Emitter::companion_text(int sub, bool member, bool local, int initial_occurs) const {
+  const Symbol& s = symbols_[sub];
+  bool is_extern = s.storage & STORAGE_EXTERN;
+  bool is_static = s.storage & STORAGE_STATIC;
+  std::string t;
+  if (is_static) t += "static ";
+  if (is_extern) t += "extern ";
+  t += strf("struct %s %s_%s", meta_type(s.dim_count()).c_str(), prefix_.c_str(), s.name.c_str());
+  if (!is_extern && !member) {
+    t += local && !is_static ? std::string(" = {NULL") : " = {(void *)" + s.name;
+    if (s.dim_count() == 1) t += strf(",%d", initial_occurs);
+    for (const Dimension& d : s.dims) t += strf(",%d", d.size);
+    t += "}";
+  }
+  return t + ";";
+}
+
+void Emitter::emit_struct(int sub) {
+  ws_.put_text('n', "\nstruct " + tag_name(sub) + " {");
+  ws_.indent_in();
+  for (int m = sub + 1; m < symbols_.count(); ++m) {
+    const Symbol& s = symbols_[m];
+    if (s.owner != sub || s.name_class != 'c') continue;
+    ws_.put_text('y', variable_text(m, true, false));
+    if (s.dim_count() > 0 && s.is_var == 'n') ws_.put_text('y', companion_text(m, true, false, 0));
+  }
+  ws_.indent_out();
+  ws_.put_text('y', "};\n");
+}
+
+void Emitter::emit_enum(int sub) {
+  ws_.put_text('n', "\nenum " + tag_name(sub) + " {");
+  ws_.indent_in();
+  // The constants are numbered from 1: 0 stays free as the "no value" of every enumeration.
+  int number = 0;
+  std::string pending;
+  for (int c = sub + 1; c < symbols_.count(); ++c) {
+    const Symbol& s = symbols_[c];
+    if (s.owner != sub || s.name_is != 'c') continue;
+    if (!pending.empty()) ws_.put_text('y', pending + ",");
+    pending = strf("%s = %d", s.name.c_str(), ++number);
+  }
+  if (!pending.empty()) ws_.put_text('y', pending);
+  ws_.indent_out();
+  ws_.put_text('y', "};\n");
+}
+
+void Emitter::emit_tag(int sub) {
+  if (static_cast<int>(emitted_.size()) <= sub) emitted_.resize(static_cast<size_t>(sub) + 1, 0);
+  if (emitted_[static_cast<size_t>(sub)]) return;
+  emitted_[static_cast<size_t>(sub)] = 1;
+  const Symbol& s = symbols_[sub];
+  if (s.error_flags || s.complete == 'n') return;
+  // Tags declared inside a structure's body stand before it in C.
+  for (int inner = sub + 1; inner < symbols_.count(); ++inner)
+    if (symbols_[inner].owner == sub && symbols_[inner].name_class == 'g') emit_tag(inner);
+  if (s.name_is == 's') emit_struct(sub);
+  if (s.name_is == 'e') emit_enum(sub);
+}
+
+void Emitter::external_declaration(int first) {
+  bool any = false;
+  for (int sub = first; sub < symbols_.count(); ++sub) {
+    const Symbol& s = symbols_[sub];
+    if (s.error_flags) continue;
+    bool tag = s.name_class == 'g' && (s.name_is == 's' || s.name_is == 'e') && s.complete == 'y';
+    bool variable = s.name_class == 'o' && s.name_is == 'v';
+    if (!tag && !variable) continue;
+    if (!any) ws_.start_output();
+    any = true;
+    if (tag) {
+      emit_tag(sub);
+      continue;
+    }
+    ws_.put_text('y', variable_text(sub, false, false));
+    if (s.dim_count() > 0 && s.is_var == 'n')
+      ws_.put_text('y', companion_text(sub, false, false, s.initial_occurs));
+    ws_.note_dimensions(s.dim_count());
+  }
+  if (any) ws_.note_emitted();
+}
+
+void Emitter::local_declaration(int sub, bool nested) {
+  const Symbol& s = symbols_[sub];
+  if (s.error_flags) return;
+  if (s.name_is == 's' || s.name_is == 'e') {
+    // C allows the definition inside the function; it stays with the locals.
+    if (!nested) emit_tag(sub);
+    return;
+  }
+  if (s.name_is != 'v' || s.name_class != 'o') return;
+  ws_.note_dimensions(s.dim_count());
+  std::string decl = variable_text(sub, false, true);
+  bool fixed = s.dim_count() > 0 && s.is_var == 'n';
+  std::string companion = fixed ? companion_text(sub, false, true, s.initial_occurs) : "";
+  std::string init;
+  if (fixed && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
+    init = strf("\n%s_%s.ptr = %s;", prefix_.c_str(), s.name.c_str(), s.name.c_str());
+  if (s.is_var == 'n' && s.dim_count() == 0 && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
+    walk_varspaces(sub, s.name + ".", false, init, 0);
+  if (!nested) {
+    ws_.wd_locals += "\n" + decl;
+    if (fixed) ws_.wd_locals += "\n" + companion;
+    ws_.wd_init_code += init;
+    return;
+  }
+  ws_.open_block_brace();
+  ws_.put_text('y', decl);
+  if (fixed) ws_.put_text('y', companion);
+  if (!init.empty()) ws_.put_text('n', init);
+}
+
+void Emitter::function_heading(int f, bool definition) {
+  const Symbol& fs = symbols_[f];
+  std::string h;
+  if (fs.storage & STORAGE_STATIC) h += "static ";
+  h += "void " + function_name(f) + "(void *" + generated("return_ptr") + "[]";
+  std::vector<int> params, returns;
+  for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
+    if (symbols_[p].p_or_r == 'p') params.push_back(p);
+    if (symbols_[p].p_or_r == 'r') returns.push_back(p);
+  }
+  bool element_size = fs.name == "qsort" || fs.name == "bsearch";
+  for (size_t i = 0; i < params.size(); ++i) {
+    h += ", " + parameter(params[i], true);
+    if (element_size && i + 3 == params.size()) h += ", unsigned";
+  }
+  if (fs.ellipsis == 'y') h += ", ...";
+  if (!definition) {
+    ws_.start_output();
+    ws_.put_text('y', h + ");");
+    ws_.note_emitted();
+    return;
+  }
+  ws_.start_output();
+  ws_.put_text('n', "\n\n" + h + ")\n{");
+  ws_.note_emitted();
+  ws_.start_function();
+  std::string ret = generated("return_ptr");
+  for (size_t i = 0; i < returns.size(); ++i) {
+    const Symbol& r = symbols_[returns[i]];
+    int t = resolve(r.type_sym);
+    bool is_struct = t && symbols_[t].name_is == 's';
+    if (r.dim_count() > 0 || is_struct) {
+      std::string type = r.dim_count() > 0 ? meta_type(r.dim_count()) : tag_name(t);
+      ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), r.name.c_str(),
+                            type.c_str(), ret.c_str(), static_cast<int>(i + 1));
+      if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", r.name.c_str());
+      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ").", false, ws_.wd_init_code, 0);
+      ws_.note_dimensions(r.dim_count());
+    } else {
+      ws_.wd_locals += "\n" + variable_text(returns[i], false, true);
+    }
+  }
+  ws_.wd_locals += strf("\nint %s = 0;", generated("exception").c_str());
+}
+
+void Emitter::function_closing(int f) {
+  std::string ret = generated("return_ptr");
+  ws_.put_text('n', strf("\n\n%s: ;\n", generated("finish").c_str()));
+  int index = 0;
+  for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
+    const Symbol& r = symbols_[p];
+    if (r.p_or_r != 'r') continue;
+    ++index;
+    int t = resolve(r.type_sym);
+    if (r.dim_count() > 0 || (t && symbols_[t].name_is == 's')) continue;
+    if (t && symbols_[t].name_is == 'n')
+      // A pointer to the caller's function pointer: "void (**) (...)".
+      ws_.put_text('n', strf("\n*((%s)(%s[%d])) = %s;", fun_pointer(t, "*").c_str(), ret.c_str(), index,
+                             r.name.c_str()));
+    else
+      ws_.put_text('n', strf("\n*((%s *)(%s[%d])) = %s;", element_type(p).c_str(), ret.c_str(), index,
+                             r.name.c_str()));
+  }
+  free_block_varspaces(f + 1);
+  ws_.put_text('n', strf("\n*((int *)(%s[0])) = %s;", ret.c_str(), generated("exception").c_str()));
+  ws_.put_text('n', "\n}\n");
+}
+
+void Emitter::walk_varspaces(int sub, const std::string& path, bool free, std::string& out,
+                             int depth) const {
+  const Symbol& s = symbols_[sub];
+  std::string indent(static_cast<size_t>(depth) * 3, ' ');
+  if (s.is_var == 'y') {
+    if (free) {
+      out += strf("\n%sif(%slimit1 > 0) {", indent.c_str(), path.c_str());
+      out += strf("\n%sfree(%sptr);", indent.c_str(), path.c_str());
+      out += strf("\n%s;}", indent.c_str());
+    } else {
+      out += strf("\n%s%sptr = NULL;", indent.c_str(), path.c_str());
+      if (s.dim_count() == 1) out += strf("\n%s%soccurs = 0;", indent.c_str(), path.c_str());
+      for (int k = 1; k <= s.dim_count(); ++k)
+        out += strf("\n%s%slimit%d = 0;", indent.c_str(), path.c_str(), k);
+    }
+    return;
+  }
+  int t = resolve(s.type_sym);
+  if (!t || symbols_[t].name_is != 's' || symbols_[t].vf.empty()) return;
+  if (s.dim_count() > 0) return;  // spaces of such structures are walked by the translation
+  for (int m : symbols_[t].vf) walk_varspaces(m, path + symbols_[m].name + ".", free, out, depth);
+}
+
+void Emitter::free_block_varspaces(int first) {
+  std::string out;
+  for (int sub = first; sub < symbols_.count(); ++sub) {
+    const Symbol& s = symbols_[sub];
+    if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
+    if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN)) continue;
+    walk_varspaces(sub, s.name + ".", true, out, 0);
+  }
+  if (!out.empty()) ws_.put_text('n', out);
+}
+
+}  // namespace ycc

@@ -1,0 +1,60 @@
+// The C text of declarations: structures, enumerations, variables with their
+// meta records and fixed-space companions, function headings with the
+// returns array, and a function's closing sequence. Everything goes through
+// the code workspace.
+#pragma once
+
+#include <string>
+
+#include "decl/symbol_table.h"
+#include "front/workspace.h"
+
+namespace ycc {
+
+class Emitter {
+ public:
+  Emitter(SymbolTable& symbols, Workspace& ws, const std::string& prefix)
+      : symbols_(symbols), ws_(ws), prefix_(prefix) {}
+
+  // A generated name: the prefix twice, "_", the word, and the number when above 0.
+  std::string generated(const char* word, int number = 0) const;
+  std::string meta_type(int dims) const;
+  // The C name of a structure, enumeration or fun tag, anonymous ones included.
+  std::string tag_name(int sub) const;
+  // The C name of a function: library functions and main carry "_yc__".
+  std::string function_name(int sub) const;
+  // The C type words of a variable's element type ("unsigned int", "struct s").
+  std::string element_type(int sub) const;
+  // A fun type as a C function-pointer type around `name` (may be empty).
+  std::string fun_pointer(int fun, const std::string& name) const;
+  // A parameter as written in a heading or a fun-type list.
+  std::string parameter(int sub, bool with_name) const;
+
+  // The declarations of one complete external declaration, from `first` on.
+  void external_declaration(int first);
+  // A declaration in a function body (depth 1) or a nested block.
+  void local_declaration(int sub, bool nested);
+  // A prototype or the heading of a definition (with its locals).
+  void function_heading(int f, bool definition);
+  // The closing sequence of a function body.
+  void function_closing(int f);
+  // Frees the varspaces of the block's variables from `first` on.
+  void free_block_varspaces(int first);
+
+ private:
+  std::string variable_text(int sub, bool member, bool local) const;
+  std::string companion_text(int sub, bool member, bool local, int initial_occurs) const;
+  void emit_tag(int sub);
+  void emit_struct(int sub);
+  void emit_enum(int sub);
+  void walk_varspaces(int sub, const std::string& path, bool free, std::string& out, int depth) const;
+  bool is_space(int sub) const { return symbols_[sub].dim_count() > 0; }
+  int resolve(int type_sym) const;
+
+  SymbolTable& symbols_;
+  Workspace& ws_;
+  std::string prefix_;
+  std::vector<char> emitted_;  // tags already written, by symbol number
+};
+
+}  // namespace ycc

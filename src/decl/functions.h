@@ -1,0 +1,32 @@
+// Matching of functions: a definition against its prototype, a parameter
+// against its counterpart, and the equivalence of fun types.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "decl/symbol_table.h"
+
+namespace ycc {
+
+// The parameters and the returns of a function, prototype or fun type.
+struct FunctionLists {
+  std::vector<int> params;
+  std::vector<int> returns;
+};
+FunctionLists function_lists(const SymbolTable& symbols, int f);
+
+// The aspect in which two parameters (or returns) differ ("type", "space
+// information", "[size] information", "resize information"), or nullptr.
+const char* parameter_mismatch(const SymbolTable& symbols, int a, int b, bool with_resize);
+
+// Why two fun types differ ("mismatch ellipsis use", ...), or "" when equivalent.
+std::string fun_type_mismatch(const SymbolTable& symbols, int fa, int fb);
+
+// The messages of a definition compared with its prototype, in order.
+std::vector<std::string> compare_with_prototype(const SymbolTable& symbols, int definition, int prototype);
+
+// Follows typedef names to the type they stand for.
+int resolve_typedef(const SymbolTable& symbols, int type_sym);
+
+}  // namespace ycc

@@ -1,0 +1,71 @@
+// The character reader of one file: blanks, line continuations, comments,
+// quoted items and the character-set check, handing out one token at a time
+// together with the blanks and line ends that preceded it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace ycc::pp {
+
+enum class Tok { end, ident, number, string, character, punct };
+
+struct Token {
+  Tok kind = Tok::end;
+  std::string_view text;  // continuations removed; valid until the next call
+  int blanks = 0;         // blank characters before it on its line (a comment is one)
+  int newlines = 0;       // line ends passed since the previous token
+  int line = 0;           // line number where the token stands
+};
+
+class Reader {
+ public:
+  // `report(line, text)` receives the reader's messages.
+  using Report = std::function<void(int, const std::string&)>;
+
+  Reader(std::string_view text, Report report) : t_(text), report_(std::move(report)) {}
+
+  // Reads the next token. `checked` is false in skipped groups: there neither
+  // the character set nor unclosed quote marks are reported.
+  // Throws PpStop{3} after reporting an illegal character.
+  Token next(bool checked);
+
+  // Position snapshots for look-ahead (a "(" after a function-like macro may
+  // stand on a later line; a directive line ends before the next line's token).
+  struct State {
+    size_t pos;
+    int line;
+    int pending;
+  };
+  State save() const { return {pos_, line_, pending_}; }
+  void restore(State s) {
+    pos_ = s.pos;
+    line_ = s.line;
+    pending_ = s.pending;
+  }
+
+  int line() const { return line_; }
+  // The last line of the file, where end-of-file messages stand.
+  int last_line() const;
+
+ private:
+  bool splice_at(size_t i) const;
+  size_t splice_len(size_t i) const;
+  void newline();
+  // Reports once per position: look-ahead may read the same comment twice.
+  void report_at(size_t pos, int line, const std::string& text);
+  void skip_block_comment(int& blanks, int& newlines);
+  Token quoted(Token tok, bool checked);
+  Token word(Token tok, Tok kind);
+
+  std::string_view t_;
+  Report report_;
+  size_t pos_ = 0;
+  int line_ = 1;
+  int pending_ = 0;  // continuations not yet added to the line number
+  size_t reported_upto_ = 0;
+  std::string scratch_;
+};
+
+}  // namespace ycc::pp

@@ -1,0 +1,3 @@
+int b;
+#include extern <c.h>
+int b2;

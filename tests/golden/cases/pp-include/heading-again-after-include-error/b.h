@@ -1,0 +1,2 @@
+int b;
+#bogus3

@@ -1,0 +1,1 @@
+int cur_b;

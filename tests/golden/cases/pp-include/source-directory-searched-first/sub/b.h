@@ -1,0 +1,1 @@
+int sub_b;

@@ -1,0 +1,1 @@
+char *bf = __FILE__; int bl = __LINE__;

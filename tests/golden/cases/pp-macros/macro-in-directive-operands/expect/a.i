@@ -1,0 +1,9 @@
+
+#line 1 "a.yc"
+
+
+
+int six;
+
+
+int big;

@@ -1,0 +1,4 @@
+
+#line 1 "a.yc"
+int a;
+  int b;

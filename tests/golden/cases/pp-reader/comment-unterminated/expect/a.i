@@ -1,0 +1,3 @@
+
+#line 1 "a.yc"
+int a;

@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "common/text.h"
+#include "front/compile_pass.h"
+
+namespace ycc {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A run of the compile pass over intermediate texts written to a fresh directory.
+struct PassFixture {
+  Options options;
+  std::ostringstream err;
+  Diagnostics diag{err, options};
+  CompileSession session;
+  fs::path dir;
+
+  PassFixture() {
+    dir = fs::temp_directory_path() /
+          ("ycc_pass_" + std::to_string(reinterpret_cast<uintptr_t>(this)));
+    fs::create_directories(dir);
+  }
+  ~PassFixture() {
+    std::error_code ec;
+    fs::remove_all(dir, ec);
+  }
+  std::string path(const std::string& name) const { return (dir / name).string(); }
+
+  // Writes name.i and compiles it as source `source`; returns the output text.
+  std::string compile(const std::string& name, const std::string& intermediate,
+                      const std::string& source, const std::string& prefix = "") {
+    std::ofstream(path(name + ".i"), std::ios::binary) << intermediate;
+    session.compile_one_file(options, diag, path(name + ".i"), path(name + ".c"), source, prefix);
+    std::string out;
+    int e;
+    EXPECT_TRUE(read_file(path(name + ".c"), out, e));
+    return out;
+  }
+};
+
+const char no_valid[] = "there are no valid declarations or functions";
+
+struct EmptyCase {
+  const char* name;
+  const char* intermediate;
+  const char* err;
+};
+
+class EmptyFiles : public ::testing::TestWithParam<EmptyCase> {};
+
+TEST_P(EmptyFiles, NoValidDeclarations) {
+  PassFixture f;
+  std::string out = f.compile("a", GetParam().intermediate, "a.yc");
+  EXPECT_EQ(f.err.str(), GetParam().err) << GetParam().name;
+  EXPECT_EQ(out, "\n");
+  EXPECT_EQ(f.diag.run_errors, 1);
+  EXPECT_EQ(f.diag.run_warnings, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, EmptyFiles,
+    ::testing::Values(
+        EmptyCase{"empty_file", "", "\n (line) in 'unknown'\n (0) **error: there are no valid declarations or functions\n"},
+        EmptyCase{"only_marker", "\n#line 1 \"a.yc\"\n\n",
+                  "\n (line) in 'a.yc'\n (2) **error: there are no valid declarations or functions\n"},
+        EmptyCase{"blank_lines", "\n#line 1 \"a.yc\"\n\n\n   \n\t\n\n",
+                  "\n (line) in 'a.yc'\n (6) **error: there are no valid declarations or functions\n"},
+        EmptyCase{"pragma_only", "\n#line 1 \"a.yc\"\n#pragma x\n\n",
+                  "\n (line) in 'a.yc'\n (3) **error: there are no valid declarations or functions\n"}));
+
+TEST(CompilePass, TokensBeforeTheGrammarGiveASyntaxError) {
+  PassFixture f;
+  f.options.width = 200;
+  std::string out = f.compile("a", "\n#line 1 \"a.yc\"\n\nint x;\n", "a.yc");
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before 'int'\n"
+            " (3) **error: there are no valid declarations or functions\n");
+  EXPECT_EQ(out, "\n");
+  EXPECT_EQ(f.diag.run_errors, 2);
+  EXPECT_EQ(f.session.files_compiled(), 1);
+}
+
+TEST(CompilePass, ErrorLimitHaltsWithTheSourceName) {
+  PassFixture f;
+  f.options.width = 200;
+  f.options.error_limit = 1;
+  std::string out = f.compile("a", "\n#line 1 \"sub/a.yc\"\nx\n", "sub/a.yc");
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'sub/a.yc'\n (1) **error: syntax error at or before 'x'\n"
+            " compilation of 'sub/a.yc' halted\n ** too many errors **\n"
+            " (2) **error: there are no valid declarations or functions\n");
+  EXPECT_EQ(out, "\n");
+  EXPECT_EQ(f.diag.run_errors, 2);
+  EXPECT_EQ(f.session.files_compiled(), 0);
+}
+
+TEST(CompilePass, ErrorLimitReachedByTheEmptyFileMessage) {
+  PassFixture f;
+  f.options.width = 200;
+  f.options.error_limit = 1;
+  f.compile("a", "\n#line 1 \"a.yc\"\n", "a.yc");
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'a.yc'\n (1) **error: there are no valid declarations or functions\n"
+            " compilation of 'a.yc' halted\n ** too many errors **\n");
+  EXPECT_EQ(f.diag.run_errors, 1);
+}
+
+TEST(CompilePass, InvalidTokenIsReportedButNotCounted) {
+  PassFixture f;
+  f.options.width = 200;
+  f.compile("a", "\n#line 1 \"a.yc\"\n\r\n", "a.yc");
+  EXPECT_EQ(f.err.str(),
+            "invalid token near line 1000001 (text was '\r')\n"
+            "\n (line) in 'a.yc'\n (2) **error: there are no valid declarations or functions\n");
+  EXPECT_EQ(f.diag.run_errors, 1);
+}
+
+TEST(CompilePass, SecondFileStartsClean) {
+  PassFixture f;
+  f.options.width = 200;
+  f.compile("a", "\n#line 1 \"a.yc\"\nx\n", "a.yc");
+  Workspace* ws = f.session.workspace();
+  ASSERT_NE(ws, nullptr);
+  f.compile("b", "\n#line 1 \"b.yc\"\n\n\ny\n", "b.yc");
+  EXPECT_EQ(f.session.workspace(), ws);  // set up once, reused
+  EXPECT_EQ(f.err.str(),
+            "\n (line) in 'a.yc'\n (1) **error: syntax error at or before 'x'\n"
+            " (2) **error: there are no valid declarations or functions\n"
+            "\n (line) in 'b.yc'\n (3) **error: syntax error at or before 'y'\n"
+            " (4) **error: there are no valid declarations or functions\n");
+  EXPECT_EQ(f.diag.errors, 2);
+  EXPECT_EQ(f.diag.run_errors, 4);
+  EXPECT_EQ(ws->merge_count(), 0);
+  EXPECT_EQ(ws->code_cnt(), 0);
+}
+
+TEST(CompilePass, SyntaxErrorLineMemoryIsPerFile) {
+  PassFixture f;
+  f.options.width = 200;
+  f.compile("a", "\n#line 1 \"s.yc\"\nx\n", "s.yc");
+  f.compile("b", "\n#line 1 \"s.yc\"\nx\n", "s.yc");
+  std::string err = f.err.str();
+  size_t first = err.find("syntax error at or before 'x'");
+  ASSERT_NE(first, std::string::npos);
+  EXPECT_NE(err.find("syntax error at or before 'x'", first + 1), std::string::npos);
+}
+
+TEST(CompilePass, UnopenableIntermediateIsFatal) {
+  PassFixture f;
+  try {
+    f.session.compile_one_file(f.options, f.diag, f.path("missing.i"), f.path("missing.c"), "m.yc", "");
+    FAIL() << "no fatal error";
+  } catch (const FatalError& e) {
+    EXPECT_EQ(e.report, "\n ** fatal error:\n unable to open preprocessed file '" + f.path("missing.i") +
+                            "': No such file or directory\n YARL C compiler terminated\n\n");
+  }
+}
+
+TEST(CompilePass, UnwritableOutputIsFatal) {
+  PassFixture f;
+  std::ofstream(f.path("a.i")) << "\n#line 1 \"a.yc\"\n";
+  try {
+    f.session.compile_one_file(f.options, f.diag, f.path("a.i"), f.path("no/such/a.c"), "a.yc", "");
+    FAIL() << "no fatal error";
+  } catch (const FatalError& e) {
+    EXPECT_EQ(e.report, "\n ** fatal error:\n unable to open file '" + f.path("no/such/a.c") +
+                            "' for output: No such file or directory\n YARL C compiler terminated\n\n");
+  }
+}
+
+}  // namespace
+}  // namespace ycc
