@@ -74,12 +74,12 @@ INSTANTIATE_TEST_SUITE_P(
         EmptyCase{"pragma_only", "\n#line 1 \"a.yc\"\n#pragma x\n\n",
                   "\n (line) in 'a.yc'\n (3) **error: there are no valid declarations or functions\n"}));
 
-TEST(CompilePass, TokensBeforeTheGrammarGiveASyntaxError) {
+TEST(CompilePass, TokensOutsideTheGrammarGiveASyntaxError) {
   PassFixture f;
   f.options.width = 200;
-  std::string out = f.compile("a", "\n#line 1 \"a.yc\"\n\nint x;\n", "a.yc");
+  std::string out = f.compile("a", "\n#line 1 \"a.yc\"\n\n)\n", "a.yc");
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before 'int'\n"
+            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before ')'\n"
             " (3) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(out, "\n");
   EXPECT_EQ(f.diag.run_errors, 2);
@@ -90,9 +90,9 @@ TEST(CompilePass, ErrorLimitHaltsWithTheSourceName) {
   PassFixture f;
   f.options.width = 200;
   f.options.error_limit = 1;
-  std::string out = f.compile("a", "\n#line 1 \"sub/a.yc\"\nx\n", "sub/a.yc");
+  std::string out = f.compile("a", "\n#line 1 \"sub/a.yc\"\n)\n", "sub/a.yc");
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'sub/a.yc'\n (1) **error: syntax error at or before 'x'\n"
+            "\n (line) in 'sub/a.yc'\n (1) **error: syntax error at or before ')'\n"
             " compilation of 'sub/a.yc' halted\n ** too many errors **\n"
             " (2) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(out, "\n");
@@ -124,15 +124,15 @@ TEST(CompilePass, InvalidTokenIsReportedButNotCounted) {
 TEST(CompilePass, SecondFileStartsClean) {
   PassFixture f;
   f.options.width = 200;
-  f.compile("a", "\n#line 1 \"a.yc\"\nx\n", "a.yc");
+  f.compile("a", "\n#line 1 \"a.yc\"\n)\n", "a.yc");
   Workspace* ws = f.session.workspace();
   ASSERT_NE(ws, nullptr);
-  f.compile("b", "\n#line 1 \"b.yc\"\n\n\ny\n", "b.yc");
+  f.compile("b", "\n#line 1 \"b.yc\"\n\n\n]\n", "b.yc");
   EXPECT_EQ(f.session.workspace(), ws);  // set up once, reused
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'a.yc'\n (1) **error: syntax error at or before 'x'\n"
+            "\n (line) in 'a.yc'\n (1) **error: syntax error at or before ')'\n"
             " (2) **error: there are no valid declarations or functions\n"
-            "\n (line) in 'b.yc'\n (3) **error: syntax error at or before 'y'\n"
+            "\n (line) in 'b.yc'\n (3) **error: syntax error at or before ']'\n"
             " (4) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(f.diag.errors, 2);
   EXPECT_EQ(f.diag.run_errors, 4);
@@ -143,12 +143,12 @@ TEST(CompilePass, SecondFileStartsClean) {
 TEST(CompilePass, SyntaxErrorLineMemoryIsPerFile) {
   PassFixture f;
   f.options.width = 200;
-  f.compile("a", "\n#line 1 \"s.yc\"\nx\n", "s.yc");
-  f.compile("b", "\n#line 1 \"s.yc\"\nx\n", "s.yc");
+  f.compile("a", "\n#line 1 \"s.yc\"\n)\n", "s.yc");
+  f.compile("b", "\n#line 1 \"s.yc\"\n)\n", "s.yc");
   std::string err = f.err.str();
-  size_t first = err.find("syntax error at or before 'x'");
+  size_t first = err.find("syntax error at or before ')'");
   ASSERT_NE(first, std::string::npos);
-  EXPECT_NE(err.find("syntax error at or before 'x'", first + 1), std::string::npos);
+  EXPECT_NE(err.find("syntax error at or before ')'", first + 1), std::string::npos);
 }
 
 TEST(CompilePass, UnopenableIntermediateIsFatal) {
