@@ -120,3 +120,40 @@ INSTANTIATE_TEST_SUITE_P(
 
 }  // namespace
 }  // namespace ycc
+
+namespace ycc {
+namespace {
+
+struct TypedefCase {
+  const char* source;
+  const char* run;  // consecutive trace lines
+};
+
+class CastOrParentheses : public ::testing::TestWithParam<TypedefCase> {};
+
+// (T) x is a cast exactly when T is a typedef name where it stands.
+TEST_P(CastOrParentheses, DecidedByTheTypedefNames) {
+  ParseResult r = parse_source(GetParam().source);
+  EXPECT_NE(r.trace.find(GetParam().run), std::string::npos) << GetParam().source << "\n" << r.trace;
+  EXPECT_EQ(r.errors, 0) << r.messages;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CastOrParentheses,
+    ::testing::Values(
+        TypedefCase{"typedef int T; f() { (T) x; }",
+                    "begin_type_name\nuse_typedef_name T\nend_type_name\nidentifier x\nend_space_reference\ncast\n"},
+        TypedefCase{"f() { (T) - x; }",
+                    "identifier T\nend_space_reference\nparenthesized\nidentifier x\nend_space_reference\nbinary_operator -\n"},
+        TypedefCase{"f() { { typedef char T; } (T) - x; }",
+                    "identifier T\nend_space_reference\nparenthesized\nidentifier x\nend_space_reference\nbinary_operator -\n"},
+        TypedefCase{"typedef int T; f() { sizeof(T); }",
+                    "begin_type_name\nuse_typedef_name T\nend_type_name\nsizeof_type\n"},
+        TypedefCase{"f() { sizeof(T); }", "identifier T\nend_space_reference\nsizeof_expr\n"},
+        TypedefCase{"f() { (fun cb) p; (enum e) 0; }",
+                    "begin_type_name\nuse_tag fun cb\nend_type_name\nidentifier p\nend_space_reference\ncast\n"
+                    "expression_statement\nend_statement\nbegin_statement\nbegin_type_name\nuse_tag enum e\n"
+                    "end_type_name\nconstant DECIMALINT 0\ncast\n"}));
+
+}  // namespace
+}  // namespace ycc
