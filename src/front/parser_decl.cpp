@@ -114,10 +114,8 @@ void Parser::parameter_list(ListOwner owner) {
         act_.parameter_ellipsis(advance());
         break;
       }
-      std::size_t before = pos_;
       parameter_declaration(owner);
       if (!accept(T_COMMA)) break;
-      if (pos_ == before) break;
     }
   }
   const Token& rparen = cur();
@@ -134,7 +132,7 @@ void Parser::parameter_declaration(ListOwner owner) {
   act_.begin_declaration(ctx, cur());
   declaration_specifiers(ctx, follow_parameter);
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, false);
+  const Token* name = declarator(false);
   act_.complete_declarator(name, false);
 }
 
@@ -164,7 +162,7 @@ void Parser::return_declaration(ListOwner owner) {
   act_.begin_declaration(ctx, cur());
   declaration_specifiers(ctx, follow_parameter);
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, false);
+  const Token* name = declarator(false);
   bool initialized = false;
   if (owner == ListOwner::Function && at(T_ASSIGNEQUAL)) {
     act_.begin_initializer(advance());
@@ -342,7 +340,7 @@ void Parser::member_declaration() {
   } else {
     do {
       act_.begin_declarator(cur());
-      const Token* name = declarator(DeclContext::Member, true);
+      const Token* name = declarator(true);
       act_.complete_declarator(name, false);
     } while (accept(T_COMMA));
   }
@@ -357,7 +355,7 @@ void Parser::member_declaration() {
 // init-declarator = declarator [ "=" initializer ]
 void Parser::init_declarator(DeclContext ctx) {
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, true);
+  const Token* name = declarator(true);
   bool initialized = false;
   if (at(T_ASSIGNEQUAL)) {
     act_.begin_initializer(advance());
@@ -370,8 +368,7 @@ void Parser::init_declarator(DeclContext ctx) {
 
 // declarator = [ `var` ] IDENTIFIER { dimension } [ resize-information ]
 // The name may be left out in parameter and return lists.
-const Token* Parser::declarator(DeclContext ctx, bool name_required) {
-  (void)ctx;
+const Token* Parser::declarator(bool name_required) {
   if (at(T_VAR)) act_.add_var_qualifier(advance());
   const Token* name = nullptr;
   if (at(T_IDENTIFIER)) {

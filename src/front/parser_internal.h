@@ -132,7 +132,7 @@ class Parser {
   void enum_body();
   void member_declaration();
   void init_declarator(DeclContext ctx);
-  const Token* declarator(DeclContext ctx, bool name_required);
+  const Token* declarator(bool name_required);
   void dimension();
   void resize_information();
   void resize_group();
