@@ -201,8 +201,8 @@ void Parser::declaration(DeclContext ctx) {
   if (at(T_SEMICOLON)) {
     act_.complete_tag_only_declaration(cur());
   } else {
-    init_declarator(ctx);
-    while (accept(T_COMMA)) init_declarator(ctx);
+    init_declarator();
+    while (accept(T_COMMA)) init_declarator();
   }
   if (!at(T_SEMICOLON)) {
     syntax_.at_or_before(cur());
@@ -353,7 +353,7 @@ void Parser::member_declaration() {
 }
 
 // init-declarator = declarator [ "=" initializer ]
-void Parser::init_declarator(DeclContext ctx) {
+void Parser::init_declarator() {
   act_.begin_declarator(cur());
   const Token* name = declarator(true);
   bool initialized = false;

@@ -131,7 +131,7 @@ class Parser {
   void struct_body();
   void enum_body();
   void member_declaration();
-  void init_declarator(DeclContext ctx);
+  void init_declarator();
   const Token* declarator(bool name_required);
   void dimension();
   void resize_information();
