@@ -34,10 +34,11 @@ void Parser::translation_unit() {
 }
 
 void Parser::recover_external() {
-  if (pos_ == last_recovery_end_) advance();
+  std::size_t start = pos_;
+  if (!previous_recovery_consumed_) advance();
   while (!at(T_Eof) && !at(T_SEMICOLON) && !declaration_start() && !function_header_at(pos_))
     advance();
-  last_recovery_end_ = pos_;
+  previous_recovery_consumed_ = pos_ != start;
 }
 
 // A function header starts with [ `static` ] IDENTIFIER "(".

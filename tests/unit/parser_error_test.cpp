@@ -152,6 +152,20 @@ INSTANTIATE_TEST_SUITE_P(
         RecoveryCase{"f() { x; }}\nint z;", "declarator_name z\n"},
         RecoveryCase{"f() { case : ; y; }", "identifier y\n"}));
 
+// A recovery that consumed no token makes the next recovery consume one
+// first: here the second ";" is taken, and the skip then runs over z.
+TEST(RecoveryProgress, NextRecoveryConsumesOneTokenFirst) {
+  ParseResult r = parse_source("f() {\nx = ;\ny = ;\nz;\n}\nint w;");
+  EXPECT_EQ(errors_of("f() {\nx = ;\ny = ;\nz;\n}"),
+            "2: syntax error at or before ';'\n3: syntax error at or before ';'\n");
+  EXPECT_EQ(r.trace.find("identifier z"), std::string::npos) << r.trace;
+  EXPECT_NE(r.trace.find("identifier y\nend_space_reference\nsyntax_error_operand ;\nassignment plain =\n"
+                         "expression_statement\n"),
+            std::string::npos)
+      << r.trace;
+  EXPECT_NE(r.trace.find("declarator_name w"), std::string::npos) << r.trace;
+}
+
 // Junk of every kind ends without a hang: each recovery makes progress.
 TEST(RecoveryProgress, RandomTokensEnd) {
   const char* words[] = {"(", ")", "[", "]", "{", "}", ";", ",", ":", "?", "=", "===", "+", "-",
