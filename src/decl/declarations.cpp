@@ -1,6 +1,7 @@
 #include "decl/declarations.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <climits>
 #include <cmath>
 
@@ -150,6 +151,7 @@ void Declarations::use_tag(TagKind kind, const Token& tag) {
   DeclState& d = decl();
   std::string n(tag.text);
   d.had_tag = true;
+  d.tag_kind = tag_kind_char(kind);
   if (d.type_bits || d.type_sym) {
     error(tag.line, d.entry, ERR_TYPE, strf("%s cannot be mixed with other type specifiers", tag_word(kind)));
     d.spec_errors |= ERR_TYPE;
@@ -181,6 +183,7 @@ void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, 
   DeclState& d = decl();
   int line = tag ? tag->line : at.line;
   int earlier = tag ? symbols_.find_in_scope('g', SymbolTable::stored_name(tag->text)) : 0;
+  d.tag_kind = tag_kind_char(kind);
   if (!has_body) {
     // "struct s;" names a tag ahead of its body; naming it again is harmless.
     d.had_tag = true;
@@ -240,8 +243,11 @@ void Declarations::enumerator(const Token& name) {
 
 void Declarations::end_tag_body(TagKind kind, const Token&) {
   if (kind == TagKind::Fun) {
-    if (!functions_.empty()) functions_.pop_back();
+    if (functions_.empty()) return;
+    symbols_[functions_.back().entry].body_end = symbols_.count();
+    functions_.pop_back();
   } else if (!tags_.empty()) {
+    symbols_[tags_.back()].body_end = symbols_.count();
     tags_.pop_back();
   }
 }
@@ -292,6 +298,7 @@ void Declarations::add_dimension(bool has_size, const Token& lbracket) {
     if (bad && sub) symbols_[sub].error_flags |= ERR_SPACE;
     if (v == 0) error(lbracket.line, sub, ERR_SPACE, "[0] is an invalid dimension size");
     dim.size = clamp_int(v);
+    dim.written_empty = false;
   }
   if (!sub) return;
   symbols_[sub].dims.push_back(dim);
@@ -553,7 +560,7 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
   // 10. Empty sizes of fixed-spaces.
   if (s->is_var == 'n' && s->dim_count() > 0) {
     int empty = static_cast<int>(
-        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.size == 0; }));
+        std::count_if(s->dims.begin(), s->dims.end(), [](const Dimension& dim) { return dim.written_empty; }));
     bool is_extern = s->storage & STORAGE_EXTERN;
     bool allowed = s->p_or_r == 'p' || s->p_or_r == 'a' || s->p_or_r == 'b' || initialized || is_extern;
     if (empty > 0 && !allowed)
@@ -582,6 +589,11 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
   }
   s = &symbols_[sub];
 
+  // The initializer is walked against the declaration it completes.
+  if (initialized && symbols_[sub].error_flags == 0)
+    symbols_[sub].init_text = check_initializer(symbols_, diag_, emit_, sub, init_items_);
+  s = &symbols_[sub];
+
   // 12. External varspaces without resize information.
   if (s->is_var == 'y' && (s->storage & STORAGE_EXTERN) && s->name[0] != '_' && s->resize_count == 0 &&
       s->dim_count() > 0)
@@ -594,21 +606,20 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
 
 void Declarations::complete_tag_only_declaration(const Token& semicolon) {
   DeclState& d = decl();
-  int sub = d.tag;
-  if (!sub || symbols_[sub].complete == 'n') {
-    // "struct s;" names a tag; specifier errors have said enough.
-    if (d.type_sym || d.had_tag || d.spec_errors) return;
-    error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
+  if (!d.had_tag && !d.tag) {
+    // Specifier errors have said enough.
+    if (!d.spec_errors) error(semicolon.line, d.entry, ERR_SPACE, "the declaration is missing a name");
     return;
   }
-  Symbol& s = symbols_[sub];
-  if (s.error_flags) return;
-  const char* word = s.name_is == 's' ? "struct" : s.name_is == 'e' ? "enum" : "fun";
+  // Only a tag this declaration made itself takes the error bit.
+  int sub = d.tag && symbols_[d.tag].complete == 'y' ? d.tag : 0;
+  if (sub && symbols_[sub].error_flags) return;
+  const char* word = d.tag_kind == 's' ? "struct" : d.tag_kind == 'e' ? "enum" : "fun";
   if (d.storage & STORAGE_EXTERN)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'extern'", word));
   if (d.storage & STORAGE_STATIC)
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration cannot specify 'static'", word));
-  if (symbols_[sub].anonymous())
+  if (sub && symbols_[sub].anonymous())
     error(semicolon.line, sub, ERR_TYPE, strf("the '%s' declaration requires a type name", word));
 }
 
@@ -712,9 +723,7 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
   int line = name.line;
   std::string n = s.name;
   // Another entry of the same name anywhere in the table.
-  int other = 0;
-  for (int i = sub - 1; i >= 1 && !other; --i)
-    if (symbols_[i].name_class == 'o' && symbols_[i].name == n) other = i;
+  int other = symbols_.find_other('o', n, sub);
   if (other) {
     char k = symbols_[other].name_is;
     if (k != 'f' && k != 'd') {
@@ -765,6 +774,110 @@ void Declarations::close_block(const Token&) {
   symbols_.leave_block();
 }
 
+// ---- type names ------------------------------------------------------------------
+
+void Declarations::begin_type_name(const Token& first) {
+  DeclState d;
+  d.ctx = DeclContext::Block;
+  d.line = first.line;
+  d.entry_used = true;  // a type name makes no entry
+  decls_.push_back(d);
+}
+
+void Declarations::end_type_name(const Token&) {
+  if (decls_.empty()) return;
+  const DeclState& d = decls_.back();
+  type_name_ = {d.type_bits, d.type_sym, d.spec_errors != 0};
+  decls_.pop_back();
+}
+
+// ---- initializers ----------------------------------------------------------------
+
+void Declarations::begin_initializer(const Token&) {
+  init_items_.clear();
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
+
+void Declarations::initializer_open_brace(const Token& t) {
+  InitItem item{'{', "{", "{"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_close_brace(const Token& t) {
+  InitItem item{'}', "}", "}"};
+  item.line = t.line;
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_identifier(const Token& name, const Token* sign) {
+  InitItem item{'i', std::string(name.text), std::string(name.text)};
+  item.line = name.line;
+  if (sign) {
+    item.sign = sign->text[0];
+    item.text = std::string(sign->text) + item.text;
+  }
+  init_items_.push_back(item);
+}
+
+void Declarations::initializer_constant(const Token& first) {
+  Folded f = pop_constant();
+  InitItem item{'d', "", ""};
+  item.line = first.line;
+  bool plain = last_literal_ && (const_ops_ == 0 || (const_ops_ == 1 && literal_sign_));
+  if (plain) {
+    const Token& lit = *last_literal_;
+    std::string text(lit.text);
+    item.sign = literal_sign_;
+    std::string sign = literal_sign_ ? std::string(1, literal_sign_) : "";
+    item.text = sign + text;
+    switch (lit.tok) {
+      case T_STRING:
+        item.kind = 's';
+        item.c_text = last_string_c_text_;
+        item.length = last_string_length_;
+        break;
+      case T_CHARACTER: {
+        item.kind = 'c';
+        item.value = last_char_value_;
+        item.c_text = sign + last_char_c_text_;
+        break;
+      }
+      case T_FLOATONE:
+      case T_FLOATTWO: {
+        item.kind = 'f';
+        errno = 0;
+        item.value = std::strtod(text.c_str(), nullptr);
+        item.overflow = errno == ERANGE && std::isinf(item.value);
+        item.c_text = sign + text;
+        break;
+      }
+      default: {
+        item.kind = lit.tok == T_HEXADECIMAL ? 'x' : 'd';
+        errno = 0;
+        unsigned long long u = std::strtoull(text.c_str(), nullptr, item.kind == 'x' ? 16 : 10);
+        item.overflow = errno == ERANGE || u > 4294967295ULL;
+        item.value = static_cast<double>(u);
+        item.c_text = sign + text;
+        break;
+      }
+    }
+    if (literal_sign_ == '-') item.value = -item.value;
+  } else {
+    // A computed constant: its folded value stands for the item.
+    item.kind = f.kind;
+    item.text = format_constant(f, diag_, first.line);
+    item.c_text = item.text;
+    item.value = f.converted ? f.value : std::strtod(item.text.c_str(), nullptr);
+  }
+  init_items_.push_back(item);
+  const_ops_ = 0;
+  literal_sign_ = 0;
+  last_literal_ = nullptr;
+}
+
 // ---- constant expressions -------------------------------------------------------
 
 Folded Declarations::pop_constant() {
@@ -775,6 +888,7 @@ Folded Declarations::pop_constant() {
 }
 
 void Declarations::const_literal(const Token& t) {
+  last_literal_ = &t;
   switch (t.tok) {
     case T_DECIMALINT: constants_.push_back(Folded::literal('d', t.text)); break;
     case T_HEXADECIMAL: constants_.push_back(Folded::literal('x', t.text)); break;
@@ -782,6 +896,8 @@ void Declarations::const_literal(const Token& t) {
     case T_FLOATTWO: constants_.push_back(Folded::literal('f', t.text)); break;
     case T_CHARACTER: {
       CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      last_char_value_ = c.value;
+      last_char_c_text_ = c.c_text;
       Folded f = Folded::literal('d', std::to_string(c.value < 0 ? -c.value : c.value));
       f.negative = c.value < 0;
       constants_.push_back(f);
@@ -789,7 +905,9 @@ void Declarations::const_literal(const Token& t) {
     }
     default: {
       // A string has no arithmetic value; it folds as 1 like any faulty operand.
-      check_string_constant(t.text, diag_, t.line);
+      StringConstant sc = check_string_constant(t.text, diag_, t.line);
+      last_string_c_text_ = sc.c_text;
+      last_string_length_ = sc.length;
       constants_.push_back(Folded::literal('d', "1"));
       break;
     }
@@ -797,10 +915,13 @@ void Declarations::const_literal(const Token& t) {
 }
 
 void Declarations::const_unary(const Token& op) {
+  if (const_ops_ == 0 && last_literal_) literal_sign_ = op.text[0];
+  ++const_ops_;
   if (op.tok == T_MINUS) constants_.push_back(fold_negate(pop_constant()));
 }
 
 void Declarations::const_binary(const Token& op) {
+  const_ops_ += 2;
   Folded b = pop_constant();
   Folded a = pop_constant();
   constants_.push_back(fold_binary(op.text.empty() ? '+' : op.text[0], a, b, diag_, op.line));

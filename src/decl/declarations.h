@@ -10,6 +10,7 @@
 #include "common/options.h"
 #include "decl/constants.h"
 #include "decl/emit.h"
+#include "decl/initializers.h"
 #include "decl/symbol_table.h"
 #include "diag/diagnostics.h"
 #include "front/actions.h"
@@ -60,6 +61,17 @@ class Declarations : public Actions {
   void open_block(const Token& lbrace) override;
   void close_block(const Token& rbrace) override;
 
+  void begin_initializer(const Token& equal) override;
+  void initializer_open_brace(const Token& t) override;
+  void initializer_close_brace(const Token& t) override;
+  void initializer_identifier(const Token& name, const Token* sign) override;
+  void initializer_constant(const Token& first) override;
+
+  // A type name of a cast or sizeof: its specifiers are checked like a
+  // declaration's, and the type is kept in `type_name_` for the translation.
+  void begin_type_name(const Token& first) override;
+  void end_type_name(const Token& last) override;
+
   void const_literal(const Token& t) override;
   void const_unary(const Token& op) override;
   void const_binary(const Token& op) override;
@@ -78,6 +90,7 @@ class Declarations : public Actions {
     int tag = 0;              // a tag declared with a body here
     bool any_declarator = false;
     bool had_tag = false;
+    char tag_kind = 's';
     int line = 0;
   };
   // A function, prototype or fun type whose lists are being read.
@@ -92,7 +105,10 @@ class Declarations : public Actions {
   // The checks of a complete declarator, in their fixed order.
   void check_declarator(const Token* name, bool initialized);
   Folded pop_constant();
-  DeclState& decl() { return decls_.back(); }
+  DeclState& decl() {
+    if (decls_.empty()) decls_.push_back(DeclState{DeclContext::Block});  // specifiers out of place
+    return decls_.back();
+  }
   int new_declarator_entry(DeclState& d);
   void check_redefinition(int sub, int line);
   void join_vf_list(int member, int structure);
@@ -111,6 +127,21 @@ class Declarations : public Actions {
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;
+  struct TypeName {
+    int type_bits = 0;
+    int type_sym = 0;
+    bool bad = false;
+  } type_name_;
+  // The items of the initializer being read, and what the constant
+  // expression of the current item was made of.
+  std::vector<InitItem> init_items_;
+  const Token* last_literal_ = nullptr;
+  int const_ops_ = 0;
+  char literal_sign_ = 0;
+  std::string last_string_c_text_;
+  std::string last_char_c_text_;
+  int last_char_value_ = 0;
+  int last_string_length_ = 0;
   std::vector<int> tags_;          // structures and enumerations whose bodies are open
   int max_dims_ = 0;
   bool declared_anything_ = false;

@@ -11,6 +11,15 @@ std::string Emitter::generated(const char* word, int number) const {
                      : strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);
 }
 
+int Emitter::body_end(int sub) const {
+  int end = symbols_[sub].body_end;
+  return end > sub && end <= symbols_.count() ? end : symbols_.count();
+}
+
+std::string Emitter::companion_name(int sub) const {
+  return prefix_ + "_" + symbols_[sub].name;
+}
+
 std::string Emitter::meta_type(int dims) const { return strf("%s%dD_meta", prefix_.c_str(), dims); }
 
 int Emitter::resolve(int type_sym) const {
@@ -84,6 +93,7 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
   for (const Dimension& d : s.dims)
     t += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
   (void)local;
+  if (!s.init_text.empty() && !member) t += " = " + s.init_text;
   return t + ";";
 }
 
@@ -107,7 +117,7 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
 void Emitter::emit_struct(int sub) {
   ws_.put_text('n', "\nstruct " + tag_name(sub) + " {");
   ws_.indent_in();
-  for (int m = sub + 1; m < symbols_.count(); ++m) {
+  for (int m = sub + 1; m < body_end(sub); ++m) {
     const Symbol& s = symbols_[m];
     if (s.owner != sub || s.name_class != 'c') continue;
     ws_.put_text('y', variable_text(m, true, false));
@@ -123,7 +133,7 @@ void Emitter::emit_enum(int sub) {
   // The constants are numbered from 1: 0 stays free as the "no value" of every enumeration.
   int number = 0;
   std::string pending;
-  for (int c = sub + 1; c < symbols_.count(); ++c) {
+  for (int c = sub + 1; c < body_end(sub); ++c) {
     const Symbol& s = symbols_[c];
     if (s.owner != sub || s.name_is != 'c') continue;
     if (!pending.empty()) ws_.put_text('y', pending + ",");
@@ -141,7 +151,7 @@ void Emitter::emit_tag(int sub) {
   const Symbol& s = symbols_[sub];
   if (s.error_flags || s.complete == 'n') return;
   // Tags declared inside a structure's body stand before it in C.
-  for (int inner = sub + 1; inner < symbols_.count(); ++inner)
+  for (int inner = sub + 1; inner < body_end(sub); ++inner)
     if (symbols_[inner].owner == sub && symbols_[inner].name_class == 'g') emit_tag(inner);
   if (s.name_is == 's') emit_struct(sub);
   if (s.name_is == 'e') emit_enum(sub);
@@ -185,8 +195,8 @@ void Emitter::local_declaration(int sub, bool nested) {
   std::string init;
   if (fixed && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
     init = strf("\n%s_%s.ptr = %s;", prefix_.c_str(), s.name.c_str(), s.name.c_str());
-  if (s.is_var == 'n' && s.dim_count() == 0 && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
-    walk_varspaces(sub, s.name + ".", false, init, 0);
+  if (s.is_var == 'n' && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
+    walk_varspaces(sub, s.name, companion_name(sub), false, init, 0);
   if (!nested) {
     ws_.wd_locals += "\n" + decl;
     if (fixed) ws_.wd_locals += "\n" + companion;
@@ -225,6 +235,7 @@ void Emitter::function_heading(int f, bool definition) {
   ws_.put_text('n', "\n\n" + h + ")\n{");
   ws_.note_emitted();
   ws_.start_function();
+  walk_counters_ = 0;
   std::string ret = generated("return_ptr");
   for (size_t i = 0; i < returns.size(); ++i) {
     const Symbol& r = symbols_[returns[i]];
@@ -235,7 +246,7 @@ void Emitter::function_heading(int f, bool definition) {
       ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), r.name.c_str(),
                             type.c_str(), ret.c_str(), static_cast<int>(i + 1));
       if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", r.name.c_str());
-      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ").", false, ws_.wd_init_code, 0);
+      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ")", "", false, ws_.wd_init_code, 0);
       ws_.note_dimensions(r.dim_count());
     } else {
       ws_.wd_locals += "\n" + variable_text(returns[i], false, true);
@@ -267,27 +278,71 @@ void Emitter::function_closing(int f) {
   ws_.put_text('n', "\n}\n");
 }
 
-void Emitter::walk_varspaces(int sub, const std::string& path, bool free, std::string& out,
-                             int depth) const {
+std::string Emitter::loop_counter(int depth) {
+  std::string name = generated("walk", depth + 1);
+  if (depth + 1 > walk_counters_) {
+    walk_counters_ = depth + 1;
+    ws_.wd_locals += "\nunsigned " + name + ";";
+  }
+  return name;
+}
+
+// `object` designates the C object of `sub` (a variable, member or element);
+// `meta` its meta record ("" for a plain structure).
+void Emitter::walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
+                             std::string& out, int depth) {
   const Symbol& s = symbols_[sub];
   std::string indent(static_cast<size_t>(depth) * 3, ' ');
+  int t = resolve(s.type_sym);
+  bool nests = t && symbols_[t].name_is == 's' && !symbols_[t].vf.empty();
+  std::string path = object + ".";
+  if (s.dim_count() > 0 && nests) {
+    // A space of structures that nest spaces: every element in turn.
+    std::string index, element;
+    int n = s.dim_count();
+    for (int k = 1; k <= n; ++k) {
+      std::string c = loop_counter(depth + k - 1);
+      // A member's companion record is not set up with the structure: its sizes are the declared ones.
+      std::string bound = meta.empty() ? strf("%d", s.dims[static_cast<size_t>(k - 1)].size)
+                          : n == 1 && free ? meta + ".occurs"
+                                           : strf("%s.limit%d", meta.c_str(), k);
+      if (s.is_var == 'y' && !free) break;  // a fresh varspace has no elements yet
+      out += strf("\n%sfor(%s = %s; %s < %s; ++%s) {", std::string(static_cast<size_t>(depth + k - 1) * 3, ' ').c_str(),
+                  c.c_str(), "0", c.c_str(), bound.c_str(), c.c_str());
+      index = k == 1 ? c : strf("(%s) * %s.limit%d + %s", index.c_str(), meta.c_str(), k, c.c_str());
+      element += "[" + c + "]";
+    }
+    if (!(s.is_var == 'y' && !free)) {
+      std::string elem = s.is_var == 'y'
+                             ? strf("((struct %s *)(%s.ptr))[%s]", tag_name(t).c_str(), meta.c_str(), index.c_str())
+                             : object + element;
+      for (int m : symbols_[t].vf) walk_member(m, elem, free, out, depth + n);
+      for (int k = n; k >= 1; --k)
+        out += strf("\n%s}", std::string(static_cast<size_t>(depth + k - 1) * 3, ' ').c_str());
+    }
+  }
   if (s.is_var == 'y') {
     if (free) {
       out += strf("\n%sif(%slimit1 > 0) {", indent.c_str(), path.c_str());
       out += strf("\n%sfree(%sptr);", indent.c_str(), path.c_str());
       out += strf("\n%s;}", indent.c_str());
     } else {
-      out += strf("\n%s%sptr = NULL;", indent.c_str(), path.c_str());
+      out += strf("\n%s%sptr = %s;", indent.c_str(), path.c_str(), "NULL");
       if (s.dim_count() == 1) out += strf("\n%s%soccurs = 0;", indent.c_str(), path.c_str());
       for (int k = 1; k <= s.dim_count(); ++k)
         out += strf("\n%s%slimit%d = 0;", indent.c_str(), path.c_str(), k);
     }
     return;
   }
-  int t = resolve(s.type_sym);
-  if (!t || symbols_[t].name_is != 's' || symbols_[t].vf.empty()) return;
-  if (s.dim_count() > 0) return;  // spaces of such structures are walked by the translation
-  for (int m : symbols_[t].vf) walk_varspaces(m, path + symbols_[m].name + ".", free, out, depth);
+  if (s.dim_count() == 0 && nests)
+    for (int m : symbols_[t].vf) walk_member(m, object, free, out, depth);
+}
+
+void Emitter::walk_member(int m, const std::string& container, bool free, std::string& out, int depth) {
+  const Symbol& ms = symbols_[m];
+  std::string object = container + "." + ms.name;
+  std::string meta = ms.is_var == 'y' ? object : "";
+  walk_varspaces(m, object, meta, free, out, depth);
 }
 
 void Emitter::free_block_varspaces(int first) {
@@ -296,7 +351,7 @@ void Emitter::free_block_varspaces(int first) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
     if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN)) continue;
-    walk_varspaces(sub, s.name + ".", true, out, 0);
+    walk_varspaces(sub, s.name, s.is_var == 'y' ? s.name : companion_name(sub), true, out, 0);
   }
   if (!out.empty()) ws_.put_text('n', out);
 }

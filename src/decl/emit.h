@@ -47,7 +47,13 @@ class Emitter {
   void emit_tag(int sub);
   void emit_struct(int sub);
   void emit_enum(int sub);
-  void walk_varspaces(int sub, const std::string& path, bool free, std::string& out, int depth) const;
+  void walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
+                      std::string& out, int depth);
+  void walk_member(int member, const std::string& container, bool free, std::string& out, int depth);
+  std::string loop_counter(int depth);
+  std::string companion_name(int sub) const;
+  // Where the members of a tag end.
+  int body_end(int sub) const;
   bool is_space(int sub) const { return symbols_[sub].dim_count() > 0; }
   int resolve(int type_sym) const;
 
@@ -55,6 +61,7 @@ class Emitter {
   Workspace& ws_;
   std::string prefix_;
   std::vector<char> emitted_;  // tags already written, by symbol number
+  int walk_counters_ = 0;      // loop counters declared in the current function
 };
 
 }  // namespace ycc

@@ -7,21 +7,12 @@
 
 namespace ycc {
 
-SymbolTable::SymbolTable() : symbols_(1), buckets_(bucket_count) {}
+SymbolTable::SymbolTable() : symbols_(1) {}
 
 int SymbolTable::new_symbol() {
   symbols_.emplace_back();
   symbols_.back().serial = ++serial_;
   return count() - 1;
-}
-
-int SymbolTable::hash(std::string_view name) {
-  int h = 0;
-  for (char c : name) {
-    h = ((h << 6) + static_cast<signed char>(c)) % bucket_count;
-    if (h < 0) h += bucket_count;
-  }
-  return h;
 }
 
 void SymbolTable::make_anonymous(int sub) {
@@ -31,48 +22,63 @@ void SymbolTable::make_anonymous(int sub) {
 
 void SymbolTable::add_to_index(int sub) {
   YCC_CHECK(sub != 0, "yc_fun");
-  buckets_[static_cast<size_t>(hash((*this)[sub].name))].push_back(sub);
+  const Symbol& s = (*this)[sub];
+  by_name_[s.name].push_back(sub);
+  if (s.name_is == 't') typedefs_[s.name].push_back(sub);
 }
 
 void SymbolTable::remove_from_index(int sub) {
-  std::vector<int>& b = buckets_[static_cast<size_t>(hash((*this)[sub].name))];
-  auto it = std::find(b.rbegin(), b.rend(), sub);
-  if (it != b.rend()) b.erase(std::next(it).base());
+  auto drop = [sub](std::unordered_map<std::string, std::vector<int>>& index, const std::string& name) {
+    auto list = index.find(name);
+    if (list == index.end()) return;
+    std::vector<int>& v = list->second;
+    auto it = std::find(v.rbegin(), v.rend(), sub);
+    if (it != v.rend()) v.erase(std::next(it).base());
+    if (v.empty()) index.erase(list);
+  };
+  drop(by_name_, (*this)[sub].name);
+  drop(typedefs_, (*this)[sub].name);
 }
 
 int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner) const {
   YCC_CHECK(name_class == 'g' || name_class == 'c' || name_class == 'i' || name_class == 'o',
             "yc_fun");
   if (!name.empty() && name[0] == '1') return 0;
-  std::string key = stored_name(name);
+  auto list = by_name_.find(stored_name(name));
+  if (list == by_name_.end()) return 0;
   int lowest = depth() > 0 && name_class != 'g' ? block_first(depth()) : 1;
-  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
-  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+  const std::vector<int>& v = list->second;
+  for (auto it = v.rbegin(); it != v.rend(); ++it) {
     if (*it < lowest) return 0;
+    // The members of a structure are numbered above it.
+    if (name_class == 'c' && *it < owner) return 0;
     const Symbol& s = (*this)[*it];
     if (s.name_class != name_class) continue;
     if (name_class == 'c' && s.owner != owner) continue;
-    if (s.name == key) return *it;
+    return *it;
   }
   return 0;
 }
 
 int SymbolTable::find_typedef(std::string_view name) const {
-  std::string key = stored_name(name);
-  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
-  for (auto it = b.rbegin(); it != b.rend(); ++it) {
-    const Symbol& s = (*this)[*it];
-    if (s.name_is == 't' && s.name == key) return *it;
-  }
+  auto list = typedefs_.find(stored_name(name));
+  return list == typedefs_.end() || list->second.empty() ? 0 : list->second.back();
+}
+
+int SymbolTable::find_other(char name_class, std::string_view name, int except) const {
+  auto list = by_name_.find(stored_name(name));
+  if (list == by_name_.end()) return 0;
+  for (auto it = list->second.rbegin(); it != list->second.rend(); ++it)
+    if (*it != except && (*this)[*it].name_class == name_class) return *it;
   return 0;
 }
 
 int SymbolTable::find_tag(char name_is, std::string_view name, int before) const {
-  std::string key = stored_name(name);
-  const std::vector<int>& b = buckets_[static_cast<size_t>(hash(key))];
-  for (auto it = b.rbegin(); it != b.rend(); ++it) {
+  auto list = by_name_.find(stored_name(name));
+  if (list == by_name_.end()) return 0;
+  for (auto it = list->second.rbegin(); it != list->second.rend(); ++it) {
     const Symbol& s = (*this)[*it];
-    if (*it < before && s.name_is == name_is && s.name_class == 'g' && s.name == key) return *it;
+    if (*it < before && s.name_is == name_is && s.name_class == 'g') return *it;
   }
   return 0;
 }

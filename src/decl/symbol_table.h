@@ -1,5 +1,5 @@
 // The symbol table: every name declared in the file being compiled, numbered
-// from 1, with a hash index whose buckets meet inner scopes first, the stack of
+// from 1, with an index by name whose lists meet inner scopes first, the stack of
 // constructions (structures, enumerations, functions, fun types whose members
 // are being declared) and the stack of blocks. Leaving a block discards its
 // entries, and their numbers are reused.
@@ -8,6 +8,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace ycc {
@@ -28,6 +29,7 @@ struct Dimension {
   int size = 0;          // 0 for an empty size "[]"
   int resize_num = -1;   // -1: not given
   int resize_pct = -1;
+  bool written_empty = true;  // "[]": the size comes from an initializer or elsewhere
 };
 
 struct Symbol {
@@ -55,8 +57,10 @@ struct Symbol {
   char complete = 'y';      // 'n' for a tag named ahead of its body
   int ref_count = 0;
   int resize_count = 0;
+  int body_end = 0;         // a tag's members and a fun type's lists stand below this number
   int initial_occurs = 0;   // elements an initializer filled (one-dimensional fixed-spaces)
   int line = 0;             // where the entry was declared
+  std::string init_text;    // the C text of its initializer, when it has one
 
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }
@@ -66,7 +70,6 @@ struct Symbol {
 
 class SymbolTable {
  public:
-  static constexpr int bucket_count = 2039;
   static constexpr size_t name_limit = 31;
 
   SymbolTable();
@@ -78,7 +81,6 @@ class SymbolTable {
   // The next free number (the count of used entries plus one).
   int count() const { return static_cast<int>(symbols_.size()); }
 
-  static int hash(std::string_view name);
   static std::string stored_name(std::string_view name) {
     return std::string(name.substr(0, std::min(name.size(), name_limit)));
   }
@@ -91,6 +93,8 @@ class SymbolTable {
   // An entry of the class and name visible in the current scope, or 0.
   int find_in_scope(char name_class, std::string_view name, int owner = 0) const;
   int find_typedef(std::string_view name) const;
+  // The newest other entry of the class and name anywhere in the table, or 0.
+  int find_other(char name_class, std::string_view name, int except) const;
   // An older tag ('s', 'e' or 'n') of that name, below `before`, or 0.
   int find_tag(char name_is, std::string_view name, int before) const;
 
@@ -122,7 +126,10 @@ class SymbolTable {
   void remove_from_index(int sub);
 
   std::vector<Symbol> symbols_;  // entry 0 unused
-  std::vector<std::vector<int>> buckets_;  // newest entry last
+  // Every indexed entry by its name, and the typedef names alone, newest
+  // last: a walk from the back meets inner scopes first.
+  std::unordered_map<std::string, std::vector<int>> by_name_;
+  std::unordered_map<std::string, std::vector<int>> typedefs_;
   std::vector<Construction> constructions_;
   std::vector<Block> blocks_;
   int serial_ = 0;

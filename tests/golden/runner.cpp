@@ -21,9 +21,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::set<std::string> reserved = {"args",   "env",  "stdout",     "stderr", "status",
-                                        "expect", "absent", "run",      "run.stdout",
-                                        "run.status", "README"};
+const std::set<std::string> reserved = {"args",       "env",        "stdout", "stderr",
+                                        "status",     "expect",     "absent", "run",
+                                        "run.stdout", "run.status", "link",   "README"};
 
 bool update_mode() {
   const char* u = std::getenv("YCC_GOLDEN_UPDATE");
@@ -139,15 +139,18 @@ bool have(const std::string& tool) {
   return std::system(cmd.c_str()) == 0;
 }
 
-// Builds the generated program with each installed C compiler and runs it.
-void run_program(const fs::path& case_dir, const fs::path& work, const fs::path& runtime) {
-  std::string c_file = trimmed(slurp(case_dir / "run"));
+// Builds the generated program with each installed C compiler and, unless
+// `link_only`, runs it. A file without a main of its own is linked with a
+// stand-in main.
+void run_program(const fs::path& case_dir, const fs::path& work, const fs::path& runtime,
+                 bool link_only) {
+  std::string c_file = trimmed(slurp(case_dir / (link_only ? "link" : "run")));
   struct Cc {
     const char* name;
     const char* flags;
   };
-  const Cc compilers[] = {{"gcc", "-std=c99 -pedantic -Wall"},
-                          {"clang", "-std=c99 -pedantic -Wall"},
+  const Cc compilers[] = {{"gcc", "-std=c99 -pedantic-errors -Wall"},
+                          {"clang", "-std=c99 -pedantic-errors -Wall"},
                           {"tcc", ""}};
   for (const Cc& cc : compilers) {
     if (!have(cc.name)) continue;
@@ -157,8 +160,13 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
     words.push_back("-o");
     words.push_back(exe);
     words.push_back(c_file);
-    for (const auto& e : fs::directory_iterator(runtime))
-      if (e.path().extension() == ".c") words.push_back(e.path().string());
+    if (link_only) {
+      spill(work / "stand_in_main.c", "int main(void) { return 0; }\n");
+      words.push_back("stand_in_main.c");
+    } else {
+      for (const auto& e : fs::directory_iterator(runtime))
+        if (e.path().extension() == ".c") words.push_back(e.path().string());
+    }
     words.push_back("-lm");
     std::string path = std::string("/usr/bin/") + cc.name;
     Outcome built = run_in(work, path, cc.name, words, {});
@@ -167,6 +175,7 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       std::cout << "--- " << cc.name << " failed to build " << c_file << ":\n" << built.err;
       continue;
     }
+    if (link_only) continue;
     Outcome ran = run_in(work, (work / exe).string(), exe, {}, {});
     compare_text(case_dir / "run.stdout", ran.out, std::string(cc.name) + " program stdout");
     compare_status(case_dir / "run.status", ran.status, std::string(cc.name) + " program status");
@@ -230,7 +239,8 @@ int main(int argc, char** argv) {
       }
     }
   }
-  if (fs::exists(case_dir / "run") && failures == 0) run_program(case_dir, work, runtime);
+  if (fs::exists(case_dir / "run") && failures == 0) run_program(case_dir, work, runtime, false);
+  if (fs::exists(case_dir / "link") && failures == 0) run_program(case_dir, work, runtime, true);
 
   if (failures == 0) {
     fs::remove_all(work);
