@@ -8,7 +8,6 @@
 #include "diag/diagnostics.h"
 #include "driver/command_line.h"
 #include "front/compile_pass.h"
-#include "front/parser.h"
 #include "preprocessor/preprocessor.h"
 
 namespace ycc {
@@ -92,7 +91,7 @@ void Driver::process(const SourceFile& file) {
       try {
         session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
                                   file.source_name, options_.prefix);
-      } catch (const ParserOverflow&) {
+      } catch (const ParserResourceExit&) {
         // The run ends here; the file's intermediate and output go first.
         if (job.intermediate_written && !options_.keep_intermediate)
           std::remove(file.intermediate_name.c_str());
@@ -129,8 +128,7 @@ int run_compiler(const std::vector<std::string>& args, std::ostream& out, std::o
   } catch (const FatalError& f) {
     out.flush();
     err << f.report;
-  } catch (const ParserOverflow& f) {
-    // The parser's resource failures end the run with status -1 (255).
+  } catch (const ParserResourceExit& f) {
     out.flush();
     err << f.report;
     err.flush();

@@ -2,6 +2,7 @@
 // file with merge markers replaced by their slots and "##" regions resolved.
 #include <cerrno>
 #include <cstdlib>
+#include <memory>
 
 #include "common/text.h"
 #include "front/workspace.h"
@@ -56,7 +57,10 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
 }
 
 void Workspace::assemble(const std::string& output_name) {
-  std::FILE* out = std::fopen(output_name.c_str(), "w+");
+  // Owned until the checked close at the end, so a fatal error cannot leak it.
+  std::unique_ptr<std::FILE, int (*)(std::FILE*)> owner(std::fopen(output_name.c_str(), "w+"),
+                                                        &std::fclose);
+  std::FILE* out = owner.get();
   if (!out)
     fatal(strf("unable to open file '%s' for output: %s", output_name.c_str(),
                system_error_text(errno).c_str()));
@@ -86,7 +90,7 @@ void Workspace::assemble(const std::string& output_name) {
     copy_work_file(out, output_name);
   }
   if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
-  if (std::fclose(out) != 0) output_write_failed(output_name);
+  if (std::fclose(owner.release()) != 0) output_write_failed(output_name);
   output_name_.clear();
 }
 

@@ -2,10 +2,12 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <new>
 
 #include "common/text.h"
 #include "front/lexer.h"
 #include "front/parse_seam.h"
+#include "front/parser.h"
 #include "front/syntax_errors.h"
 
 namespace ycc {
@@ -32,11 +34,34 @@ std::string read_all(std::FILE* f, const std::string& name) {
   return text;
 }
 
+// --dump-tokens: one line per token, "line-code NAME text".
+void dump_tokens(const TokenBuffer& tokens, std::ostream& out) {
+  for (const Token& t : tokens.tokens) {
+    out << t.line << ' ' << token_name(t.tok);
+    if (!t.text.empty()) out << ' ' << t.text;
+    out << '\n';
+  }
+}
+
 }  // namespace
 
 void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
                                       const std::string& intermediate, const std::string& output,
-                                      const std::string& source, const std::string& prefix_arg) {
+                                      const std::string& source, const std::string& prefix) {
+  try {
+    compile(options, diag, intermediate, output, source, prefix);
+  } catch (const std::bad_alloc&) {
+    fatal("insufficient memory");
+  } catch (const TokenBufferFailure& f) {
+    throw ParserResourceExit{f.report};
+  } catch (const ParserOverflow& f) {
+    throw ParserResourceExit{f.report};
+  }
+}
+
+void CompileSession::compile(const Options& options, Diagnostics& diag,
+                             const std::string& intermediate, const std::string& output,
+                             const std::string& source, const std::string& prefix_arg) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
   StreamCloser work{std::tmpfile()};
@@ -61,6 +86,7 @@ void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
   try {
     TokenBuffer tokens = tokenize(read_all(input.f, intermediate), diag.files(), diag.err());
     end_line = tokens.tokens.back().line;
+    if (options.dump_tokens) dump_tokens(tokens, diag.err());
     SyntaxErrors syntax(diag);
     ParseContext ctx{options, diag, tokens, syntax, ws, prefix};
     run_start_rule(ctx);

@@ -10,12 +10,20 @@
 
 namespace ycc {
 
+// The parser's resource limits end the process with exit status 255 after
+// printing `report` on the standard error stream.
+struct ParserResourceExit {
+  std::string report;
+};
+
 // Run-level state of the compile pass: the code workspace, set up on the
 // first compiled file and reused, and the count of compiled files.
 // Everything per file is made per call.
 class CompileSession {
  public:
-  // An empty `prefix` keeps the generated-names prefix "zz".
+  // An empty `prefix` keeps the generated-names prefix "zz". Memory
+  // exhaustion is the fatal "insufficient memory"; the token buffers and the
+  // parser's nesting limit throw ParserResourceExit.
   void compile_one_file(const Options& options, Diagnostics& diag, const std::string& intermediate,
                         const std::string& output, const std::string& source,
                         const std::string& prefix);
@@ -25,6 +33,9 @@ class CompileSession {
   Workspace* workspace() { return workspace_.get(); }
 
  private:
+  void compile(const Options& options, Diagnostics& diag, const std::string& intermediate,
+               const std::string& output, const std::string& source, const std::string& prefix);
+
   std::unique_ptr<Workspace> workspace_;
   int files_compiled_ = 0;
 };

@@ -8,6 +8,7 @@
 
 #include <climits>
 #include <cstdint>
+#include <new>
 #include <unordered_map>
 
 #include "common/text.h"
@@ -117,10 +118,20 @@ class Lexer {
 };
 
 void Lexer::emit(int tok, std::string_view text) {
-  offsets_.push_back(store_.size());
-  store_.insert(store_.end(), text.begin(), text.end());
-  store_.push_back('\0');
-  tokens_.push_back({tok, {}, line_code()});
+  auto count = [](size_t n) { return static_cast<int>(std::min<size_t>(n, INT_MAX)); };
+  try {
+    store_.insert(store_.end(), text.begin(), text.end());
+    store_.push_back('\0');
+  } catch (const std::bad_alloc&) {
+    throw TokenBufferFailure{
+        strf("cannot allocate lookahead text buffer (%d bytes)\n", count(store_.size() + text.size() + 1))};
+  }
+  try {
+    offsets_.push_back(store_.size() - text.size() - 1);
+    tokens_.push_back({tok, {}, line_code()});
+  } catch (const std::bad_alloc&) {
+    throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n", count(tokens_.size() + 1))};
+  }
 }
 
 size_t Lexer::pragma_with(size_t i, std::string_view word) const {

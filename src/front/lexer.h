@@ -38,9 +38,16 @@ struct TokenBuffer {
   bool in_extern_range(int line) const;
 };
 
+// The token buffers could not grow: `report` is the complete message
+// ("cannot allocate token buffer (%d tokens)\n" and its kin).
+struct TokenBufferFailure {
+  std::string report;
+};
+
 // Tokenises a whole intermediate file. File names of "#line" lines are
 // entered into `files` (which lives for the run); invalid characters are
-// reported on `err` in the lexer's own form, which is not counted.
+// reported on `err` in the lexer's own form, which is not counted. Throws
+// TokenBufferFailure when memory runs out.
 TokenBuffer tokenize(std::string_view text, FileTable& files, std::ostream& err);
 
 }  // namespace ycc

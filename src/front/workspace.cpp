@@ -50,6 +50,7 @@ void Workspace::reset() {
   merge_.clear();
   blocks_.clear();
   work_file_ = nullptr;
+  output_name_.clear();
   file_ = nullptr;
   indent_ = column_ = 0;
   quote_ = 0;
@@ -67,7 +68,8 @@ void Workspace::put_text(char newline_bgn, std::string_view text) {
   if (diag_.errors > 0) return;
   std::string prefix;
   if (newline_bgn == 'y') {
-    prefix = "\n" + std::string(static_cast<size_t>(indent_), ' ');
+    prefix.assign(1, '\n');
+    prefix.append(static_cast<size_t>(indent_), ' ');
     column_ = indent_;
   }
   if (to_deferred) {

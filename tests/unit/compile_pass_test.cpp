@@ -44,8 +44,6 @@ struct PassFixture {
   }
 };
 
-const char no_valid[] = "there are no valid declarations or functions";
-
 struct EmptyCase {
   const char* name;
   const char* intermediate;
@@ -74,12 +72,12 @@ INSTANTIATE_TEST_SUITE_P(
         EmptyCase{"pragma_only", "\n#line 1 \"a.yc\"\n#pragma x\n\n",
                   "\n (line) in 'a.yc'\n (3) **error: there are no valid declarations or functions\n"}));
 
-TEST(CompilePass, TokensOutsideTheGrammarGiveASyntaxError) {
+TEST(CompilePass, GarbageGivesASyntaxError) {
   PassFixture f;
   f.options.width = 200;
-  std::string out = f.compile("a", "\n#line 1 \"a.yc\"\n\n)\n", "a.yc");
+  std::string out = f.compile("a", "\n#line 1 \"a.yc\"\n\n$@\n", "a.yc");
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before ')'\n"
+            "\n (line) in 'a.yc'\n (2) **error: syntax error at or before '$@'\n"
             " (3) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(out, "\n");
   EXPECT_EQ(f.diag.run_errors, 2);
@@ -90,9 +88,9 @@ TEST(CompilePass, ErrorLimitHaltsWithTheSourceName) {
   PassFixture f;
   f.options.width = 200;
   f.options.error_limit = 1;
-  std::string out = f.compile("a", "\n#line 1 \"sub/a.yc\"\n)\n", "sub/a.yc");
+  std::string out = f.compile("a", "\n#line 1 \"sub/a.yc\"\n@\n", "sub/a.yc");
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'sub/a.yc'\n (1) **error: syntax error at or before ')'\n"
+            "\n (line) in 'sub/a.yc'\n (1) **error: syntax error at or before '@'\n"
             " compilation of 'sub/a.yc' halted\n ** too many errors **\n"
             " (2) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(out, "\n");
@@ -124,15 +122,15 @@ TEST(CompilePass, InvalidTokenIsReportedButNotCounted) {
 TEST(CompilePass, SecondFileStartsClean) {
   PassFixture f;
   f.options.width = 200;
-  f.compile("a", "\n#line 1 \"a.yc\"\n)\n", "a.yc");
+  f.compile("a", "\n#line 1 \"a.yc\"\n@\n", "a.yc");
   Workspace* ws = f.session.workspace();
   ASSERT_NE(ws, nullptr);
-  f.compile("b", "\n#line 1 \"b.yc\"\n\n\n]\n", "b.yc");
+  f.compile("b", "\n#line 1 \"b.yc\"\n\n\n`\n", "b.yc");
   EXPECT_EQ(f.session.workspace(), ws);  // set up once, reused
   EXPECT_EQ(f.err.str(),
-            "\n (line) in 'a.yc'\n (1) **error: syntax error at or before ')'\n"
+            "\n (line) in 'a.yc'\n (1) **error: syntax error at or before '@'\n"
             " (2) **error: there are no valid declarations or functions\n"
-            "\n (line) in 'b.yc'\n (3) **error: syntax error at or before ']'\n"
+            "\n (line) in 'b.yc'\n (3) **error: syntax error at or before '`'\n"
             " (4) **error: there are no valid declarations or functions\n");
   EXPECT_EQ(f.diag.errors, 2);
   EXPECT_EQ(f.diag.run_errors, 4);
@@ -143,12 +141,25 @@ TEST(CompilePass, SecondFileStartsClean) {
 TEST(CompilePass, SyntaxErrorLineMemoryIsPerFile) {
   PassFixture f;
   f.options.width = 200;
-  f.compile("a", "\n#line 1 \"s.yc\"\n)\n", "s.yc");
-  f.compile("b", "\n#line 1 \"s.yc\"\n)\n", "s.yc");
+  f.compile("a", "\n#line 1 \"s.yc\"\n#\n", "s.yc");
+  f.compile("b", "\n#line 1 \"s.yc\"\n#\n", "s.yc");
   std::string err = f.err.str();
-  size_t first = err.find("syntax error at or before ')'");
+  size_t first = err.find("syntax error at or before '#'");
   ASSERT_NE(first, std::string::npos);
-  EXPECT_NE(err.find("syntax error at or before ')'", first + 1), std::string::npos);
+  EXPECT_NE(err.find("syntax error at or before '#'", first + 1), std::string::npos);
+}
+
+TEST(CompilePass, ParserNestingLimitBecomesAResourceExit) {
+  PassFixture f;
+  std::string deep = "\n#line 1 \"a.yc\"\nint x = " + std::string(5000, '(') + "1;\n";
+  std::ofstream(f.path("a.i")) << deep;
+  try {
+    f.session.compile_one_file(f.options, f.diag, f.path("a.i"), f.path("a.c"), "a.yc", "");
+    FAIL() << "no resource exit";
+  } catch (const ParserResourceExit& e) {
+    EXPECT_EQ(e.report.rfind("fatal: attrib/AST stack overflow ", 0), 0u) << e.report;
+    EXPECT_EQ(e.report.back(), '\n');
+  }
 }
 
 TEST(CompilePass, UnopenableIntermediateIsFatal) {

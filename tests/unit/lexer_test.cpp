@@ -79,63 +79,55 @@ std::vector<int> lines_of(const TokenBuffer& b) {
   return out;
 }
 
-TEST(LexLines, NewlinesAndCutConstantsCount) {
+// Line codes in a fresh file table: "a.yc" gets index 1, the next name 2.
+struct LineCase {
+  const char* input;
+  const char* tokens;
+  std::vector<int> lines;
+};
+
+class LexLines : public ::testing::TestWithParam<LineCase> {};
+
+TEST_P(LexLines, Codes) {
   FileTable files;
   std::ostringstream err;
-  TokenBuffer b = tokenize("a\n\"s\nb 'c\nd /*\n\n*/ e // x\nf", files, err);
-  EXPECT_EQ(lines_of(b), (std::vector<int>{0, 1, 2, 2, 3, 5, 6}));
-  EXPECT_EQ(b.tokens.back().line, 6);
+  TokenBuffer b = tokenize(GetParam().input, files, err);
+  EXPECT_EQ(describe(b), GetParam().tokens) << GetParam().input;
+  EXPECT_EQ(lines_of(b), GetParam().lines) << GetParam().input;
 }
 
-TEST(LexLines, LineMarkerWithFileName) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\nx\ny\n#line 10 \"b.h\"\nz\n#line 3 \"a.yc\"\nw", files, err);
-  EXPECT_EQ(files.name(1), "a.yc");
-  EXPECT_EQ(files.name(2), "b.h");
-  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000002, 2000010, 1000003}));
-}
+INSTANTIATE_TEST_SUITE_P(
+    Table, LexLines,
+    ::testing::Values(
+        // Newlines count, also those ending cut constants and inside comments.
+        LineCase{"a\n\"s\nb 'c\nd /*\n\n*/ e // x\nf",
+                 "IDENTIFIER:a STRING:\"s IDENTIFIER:b CHARACTER:'c IDENTIFIER:d IDENTIFIER:e IDENTIFIER:f",
+                 {0, 1, 2, 2, 3, 5, 6}},
+        LineCase{"\n#line 1 \"a.yc\"\nx\ny\n#line 10 \"b.h\"\nz\n#line 3 \"a.yc\"\nw",
+                 "IDENTIFIER:x IDENTIFIER:y IDENTIFIER:z IDENTIFIER:w", {1000001, 1000002, 2000010, 1000003}},
+        // Without a name the file index is kept.
+        LineCase{"\n#line 1 \"a.yc\"\nx\n#line 40\ny\n#line\t7\nz", "IDENTIFIER:x IDENTIFIER:y IDENTIFIER:z",
+                 {1000001, 1000040, 1000007}},
+        // "#line" needs a blank after it and must start a line.
+        LineCase{"#line 5\n#line5\nx #line 9\ny",
+                 "GARBAGE:# IDENTIFIER:line5 IDENTIFIER:x GARBAGE:# IDENTIFIER:line DECIMALINT:9 IDENTIFIER:y",
+                 {5, 5, 6, 6, 6, 6, 7}},
+        // Source directives right after a marker line (whose newline it consumed).
+        LineCase{"\n#line 1 \"a.yc\"\n#pragma x\nint y;\n#line 20 \"c.yc\"\n#line 7\nz",
+                 "INT:int IDENTIFIER:y SEMICOLON:; IDENTIFIER:z", {1000002, 1000002, 1000002, 2000007}},
+        LineCase{"\n#line 1 \"a.yc\"\na\n#pragma pack(1) x y\nb", "IDENTIFIER:a IDENTIFIER:b", {1000001, 1000003}},
+        // A line number too large for a line code saturates instead of overflowing.
+        LineCase{"\n#line 99999999999999999999\nx\n\n\ny", "IDENTIFIER:x IDENTIFIER:y",
+                 {2147483647, 2147483647}}));
 
-TEST(LexLines, LineMarkerWithoutNameKeepsFile) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\nx\n#line 40\ny\n#line\t7\nz", files, err);
-  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000040, 1000007}));
-}
-
-TEST(LexLines, NamesKeepTheirIndexAcrossFiles) {
+TEST(LexFiles, NamesKeepTheirIndexAcrossFiles) {
   FileTable files;
   std::ostringstream err;
   tokenize("\n#line 1 \"a.yc\"\nx\n#line 1 \"c.h\"\n", files, err);
   TokenBuffer b = tokenize("\n#line 1 \"b.yc\"\n\n#line 5 \"c.h\"\nq", files, err);
   EXPECT_EQ(lines_of(b), (std::vector<int>{2000005}));
   EXPECT_EQ(files.size(), 4);
-}
-
-TEST(LexLines, HashLineNeedsABlankAndALineStart) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize("#line 5\n#line5\nx #line 9\ny", files, err);
-  EXPECT_EQ(describe(b), "GARBAGE:# IDENTIFIER:line5 IDENTIFIER:x GARBAGE:# IDENTIFIER:line DECIMALINT:9 IDENTIFIER:y");
-  EXPECT_EQ(lines_of(b), (std::vector<int>{5, 5, 6, 6, 6, 6, 7}));
-}
-
-TEST(LexLines, DirectivesRightAfterAMarkerLine) {
-  FileTable files;
-  std::ostringstream err;
-  // A source whose line 1 is "#pragma x" and line 3 is "#line 20 "c.yc"".
-  TokenBuffer b = tokenize(
-      "\n#line 1 \"a.yc\"\n#pragma x\nint y;\n#line 20 \"c.yc\"\n#line 7\nz", files, err);
-  EXPECT_EQ(describe(b), "INT:int IDENTIFIER:y SEMICOLON:; IDENTIFIER:z");
-  EXPECT_EQ(lines_of(b), (std::vector<int>{1000002, 1000002, 1000002, 2000007}));
-}
-
-TEST(LexLines, PragmaLinesAreSkippedAndCounted) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize("\n#line 1 \"a.yc\"\na\n#pragma pack(1) x y\nb", files, err);
-  EXPECT_EQ(describe(b), "IDENTIFIER:a IDENTIFIER:b");
-  EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 1000003}));
+  EXPECT_EQ(files.name(3), "b.yc");
 }
 
 TEST(LexExtern, RangeAfterLineMarker) {
@@ -197,14 +189,6 @@ TEST(LexLimits, VeryLongTokenKeptWhole) {
   EXPECT_EQ(b.tokens[0].text, ident);
   EXPECT_EQ(b.tokens[1].text, str);
   EXPECT_EQ(b.tokens[1].text.data()[b.tokens[1].text.size()], '\0');
-}
-
-TEST(LexLimits, HugeLineNumbersDoNotOverflow) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize("\n#line 99999999999999999999 \"a\"\nx\n\n\ny", files, err);
-  ASSERT_EQ(b.tokens.size(), 3u);
-  EXPECT_GE(b.tokens[1].line, b.tokens[0].line);
 }
 
 TEST(LexLimits, EmptyInputIsJustEof) {

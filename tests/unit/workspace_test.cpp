@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -64,23 +65,70 @@ struct Fixture {
   }
 };
 
-TEST(WorkspaceAssembly, EmptyMergeSlotLeavesNoLine) {
+// One way of filling the workspace and the output text after the header.
+struct AssemblyCase {
+  const char* name;
+  std::function<void(Workspace&)> fill;
+  const char* body;
+};
+
+class Assembly : public ::testing::TestWithParam<AssemblyCase> {};
+
+TEST_P(Assembly, Body) {
   Fixture f;
-  Workspace& ws = f.make();
-  ws.start_output();
-  ws.put_text('y', "int x;");
-  EXPECT_EQ(f.work_text(), "\n#merge 0\n\nint x;");
-  EXPECT_EQ(f.body(), "\n\nint x;\n\n");
+  GetParam().fill(f.make());
+  EXPECT_EQ(f.body(), GetParam().body) << GetParam().name;
 }
 
-TEST(WorkspaceAssembly, FilledGlobalsSlotReplacesItsMarker) {
-  Fixture f;
-  Workspace& ws = f.make();
-  ws.start_output();
-  ws.put_text('y', "int x;");
-  ws.globals += "\nint g;";
-  EXPECT_EQ(f.body(), "\n\nint g;\nint x;\n\n");
-}
+INSTANTIATE_TEST_SUITE_P(
+    Table, Assembly,
+    ::testing::Values(
+        AssemblyCase{"empty_merge_slot_leaves_no_line",
+                     [](Workspace& ws) {
+                       ws.start_output();
+                       ws.put_text('y', "int x;");
+                     },
+                     "\n\nint x;\n\n"},
+        AssemblyCase{"globals_slot_replaces_its_marker",
+                     [](Workspace& ws) {
+                       ws.start_output();
+                       ws.put_text('y', "int x;");
+                       ws.globals += "\nint g;";
+                     },
+                     "\n\nint g;\nint x;\n\n"},
+        AssemblyCase{"function_slots_keep_their_text_across_functions",
+                     [](Workspace& ws) {
+                       ws.start_output();
+                       for (const char* name : {"f", "g"}) {
+                         ws.put_text('y', std::string("void ") + name + "(void)");
+                         ws.start_function();
+                         ws.put_text('y', "{");
+                         ws.open_function_body();
+                         ws.wd_locals += std::string("int ") + name + ";\n";
+                         if (*name == 'f') ws.wd_init_code += "f = 1;\n";
+                         ws.put_text('y', "}");
+                       }
+                     },
+                     "\n\nvoid f(void)\n{\nint f;\n\nf = 1;\n\n}\nvoid g(void)\n{\nint g;\n\n\n}\n\n"},
+        AssemblyCase{"resize_function_after_source_functions",
+                     [](Workspace& ws) {
+                       ws.start_output();
+                       ws.start_resize_function("static void zzzz_resize1(void)");
+                       ws.resize_locals += "unsigned i;\n";
+                       ws.to_deferred = true;
+                       ws.put_text('n', "i = 0;\n}");
+                       ws.to_deferred = false;
+                       ws.put_text('y', "int x;");
+                     },
+                     "\n\nint x;\n\n\nstatic void zzzz_resize1(void)\n{\nunsigned i;\ni = 0;\n}\n"},
+        AssemblyCase{"merge_marker_in_dropped_part_still_replaced",
+                     [](Workspace& ws) {
+                       ws.put_text('n', "\n##e");
+                       ws.start_output();
+                       ws.globals += "int g;\n";
+                       ws.put_text('n', "dropped\n##f\nZ");
+                     },
+                     "\nint g;\nZ\n\n"}));
 
 TEST(WorkspaceAssembly, FileWithErrorsHoldsOneNewline) {
   Fixture f;
@@ -102,42 +150,6 @@ TEST(WorkspaceAssembly, MetaRecordTypesForEachDimensionCount) {
                               "\nstruct ab1D_meta {\n   void *ptr;\n   unsigned occurs;\n   unsigned limit1;\n};\n"
                               "\nstruct ab2D_meta {\n   void *ptr;\n   unsigned limit1;\n   unsigned limit2;\n};\n"
                               "\n\n");
-}
-
-TEST(WorkspaceAssembly, FunctionSlotsKeepTheirTextAcrossFunctions) {
-  Fixture f;
-  Workspace& ws = f.make();
-  ws.start_output();
-  ws.put_text('y', "void f(void)");
-  ws.start_function();
-  ws.put_text('y', "{");
-  ws.open_function_body();
-  ws.wd_locals += "int a;\n";
-  ws.wd_init_code += "a = 1;\n";
-  ws.put_text('y', "}");
-  ws.put_text('y', "void g(void)");
-  ws.start_function();
-  ws.put_text('y', "{");
-  ws.open_function_body();
-  ws.wd_locals += "int b;\n";
-  ws.put_text('y', "}");
-  EXPECT_EQ(ws.curr_wd_locals(), 3);
-  EXPECT_EQ(ws.merge(1).data, ws.merge(1).own.get());
-  EXPECT_EQ(f.body(),
-            "\n\nvoid f(void)\n{\nint a;\n\na = 1;\n\n}\nvoid g(void)\n{\nint b;\n\n\n}\n\n");
-}
-
-TEST(WorkspaceAssembly, ResizeFunctionGoesAfterSourceFunctions) {
-  Fixture f;
-  Workspace& ws = f.make();
-  ws.start_output();
-  ws.start_resize_function("static void zzzz_resize1(void)");
-  ws.resize_locals += "unsigned i;\n";
-  ws.to_deferred = true;
-  ws.put_text('n', "i = 0;\n}");
-  ws.to_deferred = false;
-  ws.put_text('y', "int x;");
-  EXPECT_EQ(f.body(), "\n\nint x;\n\n\nstatic void zzzz_resize1(void)\n{\nunsigned i;\ni = 0;\n}\n");
 }
 
 TEST(WorkspaceAssembly, SupportFunctionGeneratorsFollowTheOptions) {
@@ -199,40 +211,42 @@ TEST(WorkspaceAssembly, MergeMarkerInDroppedPartIsStillReplaced) {
   EXPECT_EQ(f.body(), "\nint g;\nZ\n\n");
 }
 
-TEST(WorkspaceWriter, LongLineBrokenAfterBlankOrCommaOutsideQuotes) {
-  Fixture f;
-  Workspace& ws = f.make();
-  std::string chunk = "abcd, ";
+std::string repeat(const std::string& s, int n) {
+  std::string out;
+  for (int i = 0; i < n; ++i) out += s;
+  return out;
+}
+
+// Text written with newline_bgn 'n' at indentation 0, and the work file after it.
+struct BreakCase {
+  const char* name;
   std::string text;
-  for (int i = 0; i < 20; ++i) text += chunk;
-  ws.put_text('y', text);
-  // Column 72 is the blank of chunk 12; the comma of chunk 13 is column 77.
-  std::string first;
-  for (int i = 0; i < 12; ++i) first += chunk;
-  std::string rest;
-  for (int i = 0; i < 7; ++i) rest += chunk;
-  EXPECT_EQ(f.work_text(), "\n" + first + "abcd,\n  " + rest);
+  std::string work;
+};
+
+class LineBreaking : public ::testing::TestWithParam<BreakCase> {};
+
+TEST_P(LineBreaking, WorkText) {
+  Fixture f;
+  f.make().put_text('n', GetParam().text);
+  EXPECT_EQ(f.work_text(), GetParam().work) << GetParam().name;
 }
 
-TEST(WorkspaceWriter, StringHoldingCommaBlankNeverBroken) {
-  Fixture f;
-  Workspace& ws = f.make();
-  std::string inside;
-  for (int i = 0; i < 30; ++i) inside += "a, ";
-  std::string text = "s = \"" + inside + "\\\"\", t, u;";
-  ws.put_text('n', text);
-  // The literal (with an escaped quote) ends at column 98; the comma after it breaks.
-  EXPECT_EQ(f.work_text(), "s = \"" + inside + "\\\"\",\n  t, u;");
-}
-
-TEST(WorkspaceWriter, CharacterLiteralAndBackslashPairs) {
-  Fixture f;
-  Workspace& ws = f.make();
-  std::string pad(70, 'x');
-  ws.put_text('n', pad + "'\\\\', ','");
-  // "'\\'" closes after an even run of backslashes, so the comma at column 75 breaks.
-  EXPECT_EQ(f.work_text(), pad + "'\\\\',\n  ','");
-}
+// Column 72 is the blank of the 12th "abcd, "; the comma of the 13th is
+// column 77. The string's literal (with an escaped quote) ends at column 98.
+// "'\\\\'" closes after an even run of backslashes: its comma is column 75.
+INSTANTIATE_TEST_SUITE_P(
+    Table, LineBreaking,
+    ::testing::Values(
+        BreakCase{"after_comma_past_72", repeat("abcd, ", 20),
+                  repeat("abcd, ", 12) + "abcd,\n  " + repeat("abcd, ", 7)},
+        BreakCase{"not_inside_a_string", "s = \"" + repeat("a, ", 30) + "\\\"\", t, u;",
+                  "s = \"" + repeat("a, ", 30) + "\\\"\",\n  t, u;"},
+        BreakCase{"character_literal_closes", std::string(70, 'x') + "'\\\\', ','",
+                  std::string(70, 'x') + "'\\\\',\n  ','"},
+        BreakCase{"no_blank_no_break", std::string(100, 'y'), std::string(100, 'y')},
+        BreakCase{"newline_resets_the_column", std::string(70, 'x') + "\n" + repeat("b ", 3),
+                  std::string(70, 'x') + "\n" + repeat("b ", 3)}));
 
 TEST(WorkspaceWriter, IndentationPrefixSetsTheColumn) {
   Fixture f;
