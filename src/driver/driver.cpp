@@ -88,8 +88,16 @@ void Driver::process(const SourceFile& file) {
     if (!halted && diag_.pp_errors == 0 && job.compile_flag == 'y') {
       out_ << " compile    '" << file.source_name << "'\n";
       out_.flush();
-      session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
-                                file.source_name, options_.prefix);
+      try {
+        session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
+                                  file.source_name, options_.prefix);
+      } catch (const ParserResourceExit&) {
+        // The run ends here; the file's intermediate and output go first.
+        if (job.intermediate_written && !options_.keep_intermediate)
+          std::remove(file.intermediate_name.c_str());
+        std::remove(file.output_name.c_str());
+        throw;
+      }
     }
   }
   if (job.intermediate_written && !options_.keep_intermediate)

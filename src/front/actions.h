@@ -117,7 +117,9 @@ class Actions {
   virtual void complete_declarator(const Token* /*name*/, bool /*initialized*/) {}
   // A declaration whose specifiers were followed by no declarator.
   virtual void complete_tag_only_declaration(const Token& /*semicolon*/) {}
-  // ";" of a declaration (external, block or member).
+  // ";" of a declaration (external, block or member) and of a function
+  // prototype; a function definition ends with close_function_body instead.
+  // After a syntax error the token is where recovery stopped.
   virtual void end_declaration(DeclContext, const Token& /*semicolon*/) {}
 
   // Initializers: "=" then items; constant items are folded on the constant

@@ -1,5 +1,24 @@
 // The parser of YARL C: recursive descent over the token buffer of one file
 // (unlimited lookahead by index), calling the grammar actions.
+//
+// Every choice the grammar leaves to lookahead is made by looking at tokens
+// only, never by undoing a parse:
+// - [static] IDENTIFIER "(" at file level starts a function header; anything
+//   else that starts with specifiers is a declaration.
+// - A header is a definition when the first "{" after its "(" (not one that
+//   opens a structure or enumeration body or an initializer) comes before any
+//   ";"; the answer is known before the name is entered.
+// - A typedef name is a type where no type was given yet, or where a
+//   declarator or another specifier follows it; otherwise it is a name.
+// - "(" followed by a type starts a cast (and selects sizeof of a type).
+// - An IDENTIFIER starts a call with return variables when space references
+//   separated by "," are followed by "=" and a callee with its "(".
+// - The labels and exception handlers of a function body are gathered from
+//   its tokens before the body is parsed.
+//
+// Syntax errors are reported through SyntaxErrors and recovered by skipping
+// to a follow set of the rule; a nesting counter turns absurdly deep input
+// into ParserOverflow instead of a stack overflow.
 #pragma once
 
 #include <string>

@@ -59,13 +59,13 @@ void Parser::type_error(const TokSet& follow) {
   recover(follow);
 }
 
-// Skips to a follow token or Eof. When the previous recovery ended here and
-// nothing was consumed since, one token is consumed first, so the parser
-// always makes progress.
+// Skips to a follow token or Eof. When the previous recovery consumed no
+// token, one token is consumed first, so the parser always makes progress.
 void Parser::recover(const TokSet& follow) {
-  if (pos_ == last_recovery_end_) advance();
+  std::size_t start = pos_;
+  if (!previous_recovery_consumed_) advance();
   while (!at(T_Eof) && !follow.has(cur().tok)) advance();
-  last_recovery_end_ = pos_;
+  previous_recovery_consumed_ = pos_ != start;
 }
 
 Parser::DepthGuard::DepthGuard(Parser& p, const char* file, int line) : p_(p) {

@@ -34,10 +34,11 @@ void Parser::translation_unit() {
 }
 
 void Parser::recover_external() {
-  if (pos_ == last_recovery_end_) advance();
+  std::size_t start = pos_;
+  if (!previous_recovery_consumed_) advance();
   while (!at(T_Eof) && !at(T_SEMICOLON) && !declaration_start() && !function_header_at(pos_))
     advance();
-  last_recovery_end_ = pos_;
+  previous_recovery_consumed_ = pos_ != start;
 }
 
 // A function header starts with [ `static` ] IDENTIFIER "(".
@@ -114,10 +115,8 @@ void Parser::parameter_list(ListOwner owner) {
         act_.parameter_ellipsis(advance());
         break;
       }
-      std::size_t before = pos_;
       parameter_declaration(owner);
       if (!accept(T_COMMA)) break;
-      if (pos_ == before) break;
     }
   }
   const Token& rparen = cur();
@@ -134,7 +133,7 @@ void Parser::parameter_declaration(ListOwner owner) {
   act_.begin_declaration(ctx, cur());
   declaration_specifiers(ctx, follow_parameter);
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, false);
+  const Token* name = declarator(false);
   act_.complete_declarator(name, false);
 }
 
@@ -164,7 +163,7 @@ void Parser::return_declaration(ListOwner owner) {
   act_.begin_declaration(ctx, cur());
   declaration_specifiers(ctx, follow_parameter);
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, false);
+  const Token* name = declarator(false);
   bool initialized = false;
   if (owner == ListOwner::Function && at(T_ASSIGNEQUAL)) {
     act_.begin_initializer(advance());
@@ -203,8 +202,8 @@ void Parser::declaration(DeclContext ctx) {
   if (at(T_SEMICOLON)) {
     act_.complete_tag_only_declaration(cur());
   } else {
-    init_declarator(ctx);
-    while (accept(T_COMMA)) init_declarator(ctx);
+    init_declarator();
+    while (accept(T_COMMA)) init_declarator();
   }
   if (!at(T_SEMICOLON)) {
     syntax_.at_or_before(cur());
@@ -342,7 +341,7 @@ void Parser::member_declaration() {
   } else {
     do {
       act_.begin_declarator(cur());
-      const Token* name = declarator(DeclContext::Member, true);
+      const Token* name = declarator(true);
       act_.complete_declarator(name, false);
     } while (accept(T_COMMA));
   }
@@ -355,9 +354,9 @@ void Parser::member_declaration() {
 }
 
 // init-declarator = declarator [ "=" initializer ]
-void Parser::init_declarator(DeclContext ctx) {
+void Parser::init_declarator() {
   act_.begin_declarator(cur());
-  const Token* name = declarator(ctx, true);
+  const Token* name = declarator(true);
   bool initialized = false;
   if (at(T_ASSIGNEQUAL)) {
     act_.begin_initializer(advance());
@@ -370,8 +369,7 @@ void Parser::init_declarator(DeclContext ctx) {
 
 // declarator = [ `var` ] IDENTIFIER { dimension } [ resize-information ]
 // The name may be left out in parameter and return lists.
-const Token* Parser::declarator(DeclContext ctx, bool name_required) {
-  (void)ctx;
+const Token* Parser::declarator(bool name_required) {
   if (at(T_VAR)) act_.add_var_qualifier(advance());
   const Token* name = nullptr;
   if (at(T_IDENTIFIER)) {

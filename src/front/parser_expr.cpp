@@ -70,6 +70,7 @@ void Parser::expression() {
 void Parser::assignment_expression() {
   conditional_expression();
   if (!assignment_operators.has(cur().tok)) return;
+  YCC_DEPTH_GUARD();  // the right operand nests
   const Token& op = advance();
   assignment_expression();
   AssignMode mode = op.tok == T_ASSIGNEQUAL ? AssignMode::Plain
@@ -82,6 +83,7 @@ void Parser::assignment_expression() {
 void Parser::conditional_expression() {
   binary_expression(0);
   if (!at(T_QUESTIONMARK)) return;
+  YCC_DEPTH_GUARD();  // the last operand nests
   const Token& question = advance();
   expression();
   const Token& colon = cur();

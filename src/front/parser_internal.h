@@ -131,8 +131,8 @@ class Parser {
   void struct_body();
   void enum_body();
   void member_declaration();
-  void init_declarator(DeclContext ctx);
-  const Token* declarator(DeclContext ctx, bool name_required);
+  void init_declarator();
+  const Token* declarator(bool name_required);
   void dimension();
   void resize_information();
   void resize_group();
@@ -190,7 +190,7 @@ class Parser {
   Actions& act_;
   SyntaxErrors& syntax_;
   int depth_ = 0;
-  std::size_t last_recovery_end_ = static_cast<std::size_t>(-1);
+  bool previous_recovery_consumed_ = true;
   // Inside call arguments a comma separates arguments, so a call with
   // return variables there takes only one of them.
   bool in_arguments_ = false;

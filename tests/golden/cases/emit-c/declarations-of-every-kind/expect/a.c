@@ -46,6 +46,8 @@ int primes[4] = {2, 3, 5, 7};
 struct zz1D_meta zz_primes = {(void *)primes,4,4};
 char greeting[4] = "hi\101";
 struct zz1D_meta zz_greeting = {(void *)greeting,3,4};
+char high[2] = "\377";
+struct zz1D_meta zz_high = {(void *)high,1,2};
 extern int shared[2];
 extern struct zz1D_meta zz_shared;
 extern struct zz1D_meta log_text;
