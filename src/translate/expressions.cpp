@@ -286,6 +286,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
     }
     if (e.jump_form()) {
       // Label names carry their role: the exchange renames them.
+      resolve_labels(code(i));
       int new_true = e.false_label ? next_label() : 0;
       int new_false = e.true_label ? next_label() : 0;
       std::string& text = code(i);
@@ -413,12 +414,12 @@ void Translator::binary_operator(const Token& op) {
   }
   int bits = comparison ? 4 : arithmetic_result(l.type_bits, r.type_bits);
   bool literal = l.literal && r.literal;
-  std::string value = l.value + " " + o + " " + r.value;
+  // Appended in place: a long chain of operators stays linear.
+  l.value.append(" ").append(o).append(" ").append(r.value);
   std::string right_code;
   pop_entry(&right_code);
   code(left) += right_code;
   Entry& e = entry(left);
-  e.value = std::move(value);
   e.type_bits = bits;
   e.kind = 0;
   e.type_sym = 0;
@@ -440,7 +441,7 @@ void Translator::logical_and(const Token& op) {
   int common = r.false_label ? r.false_label : l.false_label ? l.false_label : next_label();
   std::string f = false_name(common);
   std::string& text = code(left);
-  if (l.false_label && l.false_label != common) rename_label(text, false_name(l.false_label), f);
+  if (l.false_label && l.false_label != common) alias_label(l.false_label, common);
   if (l.jump_form()) {
     if (l.true_label) {
       std::string t = true_name(l.true_label);
@@ -480,7 +481,7 @@ void Translator::logical_or(const Token& op) {
   int common = r.true_label ? r.true_label : l.true_label ? l.true_label : next_label();
   std::string t = true_name(common);
   std::string& text = code(left);
-  if (l.true_label && l.true_label != common) rename_label(text, true_name(l.true_label), t);
+  if (l.true_label && l.true_label != common) alias_label(l.true_label, common);
   if (l.jump_form()) {
     if (l.false_label) {
       std::string f = false_name(l.false_label);
@@ -646,12 +647,11 @@ void Translator::assignment(AssignMode mode, const Token& op) {
       fail(strf("'%s' : the operands have incompatible types", o.c_str()));
     }
   }
-  std::string value = l.value + " " + o + " " + r.value;
+  l.value.append(" ").append(o).append(" ").append(r.value);
   std::string right_code;
   pop_entry(&right_code);
   code(left) += right_code;
   Entry& e = entry(left);
-  e.value = std::move(value);
   e.emit = true;
   e.lvalue = e.literal = false;
   e.reported = reported;

@@ -40,8 +40,57 @@ void Translator::rename_label(std::string& text, const std::string& from, const 
   text = std::move(out);
 }
 
+void Translator::alias_label(int from, int to) {
+  from = label_representative(from);
+  to = label_representative(to);
+  if (from != to) label_alias_[from] = to;
+}
+
+int Translator::label_representative(int n) {
+  int root = n;
+  for (auto it = label_alias_.find(root); it != label_alias_.end(); it = label_alias_.find(root))
+    root = it->second;
+  // Path compression keeps later lookups short.
+  while (n != root) {
+    auto it = label_alias_.find(n);
+    n = it->second;
+    it->second = root;
+  }
+  return root;
+}
+
+void Translator::resolve_labels(std::string& text) {
+  if (label_alias_.empty()) return;
+  const std::string head = prefix_ + prefix_ + "_";
+  std::string out;
+  size_t pos = 0;
+  bool changed = false;
+  for (size_t at = text.find(head); at != std::string::npos; at = text.find(head, at + 1)) {
+    if (at > 0 && is_ident_char(text[at - 1])) continue;
+    size_t word = at + head.size();
+    size_t digits = std::string_view(text).substr(word).starts_with("false") ? word + 5
+                    : std::string_view(text).substr(word).starts_with("true") ? word + 4
+                                                                             : std::string::npos;
+    if (digits == std::string::npos) continue;
+    size_t end = digits;
+    while (end < text.size() && is_digit(text[end])) ++end;
+    if (end == digits || end - digits > 9 || (end < text.size() && is_ident_char(text[end]))) continue;
+    int n = std::stoi(text.substr(digits, end - digits));
+    int r = label_representative(n);
+    if (r == n) continue;
+    out.append(text, pos, digits - pos);
+    out += std::to_string(r);
+    pos = end;
+    changed = true;
+  }
+  if (!changed) return;
+  out.append(text, pos, std::string::npos);
+  text = std::move(out);
+}
+
 std::string Translator::control_on(int i) {
   Entry& e = entry(i);
+  if (e.jump_form()) resolve_labels(code(i));
   int number = e.false_label ? e.false_label : next_label();
   std::string f = false_name(number);
   if (!e.reported) {

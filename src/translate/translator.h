@@ -133,6 +133,12 @@ class Translator : public Declarations {
   std::string true_name(int n) const { return generated_name("true", n); }
   // Whether the last goto of `code` jumps to a true label.
   bool last_goto_is_true(const std::string& code) const;
+  // Label numbers merged by && and || without rewriting text at once: the
+  // text is rewritten in one pass when the jump form is finished, so a long
+  // chain of operators stays linear.
+  void alias_label(int from, int to);
+  int label_representative(int n);
+  void resolve_labels(std::string& code);
   // Replaces every whole occurrence of the label `from` in `code` by `to`.
   static void rename_label(std::string& code, const std::string& from, const std::string& to);
   // The control expression on entry i: appends its test; returns the false label.
@@ -212,6 +218,7 @@ class Translator : public Declarations {
   std::vector<Handler> handlers_;
 
   int label_counter_ = 0;   // false and true labels
+  std::map<int, int> label_alias_;
   int cont_counter_ = 0;
   int skip_counter_ = 0;
   int string_counter_ = 0;

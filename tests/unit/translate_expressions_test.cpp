@@ -131,6 +131,25 @@ TEST(TranslateExpressions, AndOfTwoJumpFormsSharesOneFalseLabel) {
             "\nif(!(x)) goto zzzz_false2;\nr = 1;\nzzzz_false2:");
 }
 
+TEST(TranslateExpressions, LongChainsShareOneLabelAndOneValue) {
+  std::string pairs, sum;
+  for (int k = 0; k < 20000; ++k) {
+    pairs += k ? " && (a && b)" : "(a && b)";
+    sum += k ? " + a" : "a";
+  }
+  TranslateRun t;
+  std::string body = t.run(in_function("if (" + pairs + ") r = 1;\nr = " + sum + ";"));
+  EXPECT_EQ(t.messages(), "");
+  // Every test jumps to the false label of the last pair.
+  size_t tests = 0;
+  for (size_t at = body.find("goto zzzz_false20000;"); at != std::string::npos;
+       at = body.find("goto zzzz_false20000;", at + 1))
+    ++tests;
+  EXPECT_EQ(tests, 40000u);
+  EXPECT_EQ(body.find("zzzz_false1;"), std::string::npos);
+  EXPECT_NE(body.find("\nr = a + a + a"), std::string::npos);
+}
+
 TEST(TranslateExpressions, NotOfAPlainValueAndDoubleNot) {
   TranslateRun t;
   EXPECT_EQ(t.run(in_function("r = !a;\nif (!!(a && b)) r = 2;")),
