@@ -43,15 +43,15 @@ void Translator::open_function_body(const Token& lbrace, const FunctionLabels& l
     if (info.line == 0) info.line = t->line;
   }
   handlers_.clear();
+  handler_order_.clear();
   for (const Token* t : labels.handlers) {
     char* end = nullptr;
     errno = 0;
     long n = std::strtol(std::string(t->text).c_str(), &end, 10);
     if (errno || n < 1 || n > max_exception) continue;
-    bool known = false;
-    for (const Handler& h : handlers_) known = known || h.number == n;
-    if (!known) handlers_.push_back({static_cast<int>(n), false});
+    if (handlers_.emplace(static_cast<int>(n), false).second) handler_order_.push_back(static_cast<int>(n));
   }
+  enum_counts_.clear();
   temp_declared_.clear();
   temp_next_.clear();
   loops_.clear();
@@ -346,14 +346,10 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
                        "belong to the enumeration type of the switch expression as required",
                        name.c_str()));
     } else {
-      bool seen = false;
-      for (int c : sw.constants) seen = seen || c == sub;
-      if (seen)
+      if (!sw.constants.insert(sub).second)
         diag_.error(value.line,
                     strf("duplicate case label: label '%s' must be unique within the switch statement",
                          name.c_str()));
-      else
-        sw.constants.push_back(sub);
     }
     return;
   }
@@ -403,16 +399,11 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
                      sign.c_str(), text.c_str()));
     return;
   }
-  for (long long v : sw.values) {
-    if (v == number) {
-      diag_.error(value.line,
-                  strf("duplicate case label: label value '%s%s' must be unique within the switch "
-                       "statement",
-                       sign.c_str(), text.c_str()));
-      return;
-    }
-  }
-  sw.values.push_back(number);
+  if (!sw.values.insert(number).second)
+    diag_.error(value.line,
+                strf("duplicate case label: label value '%s%s' must be unique within the switch "
+                     "statement",
+                     sign.c_str(), text.c_str()));
 }
 
 void Translator::default_label(const Token& keyword) {
@@ -437,15 +428,11 @@ void Translator::exception_handler(const Token& number) {
   bool valid = exception_number(number, n);
   if (!labels_pending_.empty()) labels_pending_.back().text = "\n" + generated_name("exception", n) + ":";
   if (!valid) return;
-  for (Handler& h : handlers_) {
-    if (h.number != n) continue;
-    if (h.defined)
-      diag_.error(number.line,
-                  strf("duplicate : the function has more than a single handler defined for exception %d", n));
-    h.defined = true;
-    return;
-  }
-  handlers_.push_back({n, true});
+  bool& defined = handlers_[n];
+  if (defined)
+    diag_.error(number.line,
+                strf("duplicate : the function has more than a single handler defined for exception %d", n));
+  defined = true;
 }
 
 void Translator::leave_labelled_statement(LabelKind, const Token& last) {
@@ -489,9 +476,14 @@ void Translator::switch_end(const Token& rbrace) {
   if (!switches_.empty()) switches_.pop_back();
   if (!loops_.empty()) loops_.pop_back();
   if (sw.enum_type && !sw.default_seen) {
-    int declared = 0;
-    for (int k = sw.enum_type + 1; k < symbols_.count(); ++k)
-      if (symbols_[k].name_is == 'c' && symbols_[k].owner == sw.enum_type) ++declared;
+    auto known = enum_counts_.find(sw.enum_type);
+    if (known == enum_counts_.end()) {
+      int declared = 0;
+      for (int k = sw.enum_type + 1; k < symbols_.count(); ++k)
+        if (symbols_[k].name_is == 'c' && symbols_[k].owner == sw.enum_type) ++declared;
+      known = enum_counts_.emplace(sw.enum_type, declared).first;
+    }
+    int declared = known->second;
     int used = static_cast<int>(sw.constants.size());
     if (used != declared)
       diag_.error(rbrace.line,

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -184,8 +185,8 @@ class Translator : public Declarations {
 
   struct SwitchEntry {
     int enum_type = 0;
-    std::vector<long long> values;   // numeric case values
-    std::vector<int> constants;      // enumeration constants used
+    std::set<long long> values;      // numeric case values
+    std::set<int> constants;         // enumeration constants used
     bool default_seen = false;
     int label_depth = 0;
     bool break_pending = false;
@@ -211,11 +212,12 @@ class Translator : public Declarations {
     int referenced = 0;
   };
   std::map<std::string, LabelInfo> statement_labels_;
-  struct Handler {
-    int number;
-    bool defined;
-  };
-  std::vector<Handler> handlers_;
+  // The function's handler numbers in the order of the body, and whether
+  // each has been translated.
+  std::vector<int> handler_order_;
+  std::map<int, bool> handlers_;
+  // Declared constant count of each enumeration met by a switch.
+  std::map<int, int> enum_counts_;
 
   int label_counter_ = 0;   // false and true labels
   std::map<int, int> label_alias_;
