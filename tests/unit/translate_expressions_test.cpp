@@ -51,6 +51,64 @@ TEST(TranslateTypes, ResultTypeOfBinaryArithmetic) {
   }
 }
 
+// ---- Operand classes ---------------------------------------------------------------------------
+
+struct ClassRow {
+  const char* what;
+  Entry entry;
+  int cls;
+  bool refuse_aggregates;
+  const char* message;  // "" when the operand passes
+};
+
+Entry make(int bits, char kind = 0, int dims = 0, bool casted = false, bool empty = false) {
+  Entry e;
+  e.type_bits = bits;
+  e.kind = kind;
+  e.dims = dims;
+  e.casted = casted;
+  e.empty = empty;
+  return e;
+}
+
+TEST(TranslateClasses, EveryClassAndMessage) {
+  const ClassRow rows[] = {
+      {"int scalar", make(4), 2, true, ""},
+      {"function pointer scalar", make(0, 'n'), 2, true, ""},
+      {"enumeration scalar", make(0, 'e'), 2, true, ""},
+      {"structure scalar", make(0, 's'), 2, true, "cannot be a structure, the required type is scalar"},
+      {"space scalar", make(4, 0, 1), 2, true, "cannot be a space, the required type is scalar"},
+      {"space by element", make(4, 0, 1), 5, false, ""},
+      {"casted", make(4, 0, 0, true), 2, true, "cannot be a casted character space, the required type is scalar"},
+      {"empty", make(0, 0, 0, false, true), 2, true, "cannot be empty, the required type is scalar"},
+      {"function name", make(0, 'd'), 3, true, ""},
+      {"int function", make(4), 3, true, "cannot be an integral value, the required type is function"},
+      {"double function", make(32), 3, true, "cannot be a floating-point value, the required type is function"},
+      {"enum constant", make(0, 'c'), 4, true, ""},
+      {"pointer enumeration", make(0, 'n'), 4, true, "cannot be a function pointer, the required type is enumeration"},
+      {"enum var arithmetic", make(0, 'e'), 5, true,
+       "cannot be an enumeration variable, the required type is arithmetic"},
+      {"float floating", make(16), 6, true, ""},
+      {"int floating", make(4), 6, true, "cannot be an integral value, the required type is floating-point"},
+      {"long integral", make(8), 7, true, ""},
+      {"long double integral", make(40), 7, true,
+       "cannot be a floating-point value, the required type is integral"},
+      {"enum constant either", make(0, 'c'), 8, true, ""},
+      {"function name either", make(0, 'd'), 8, true,
+       "cannot be a function name, the required type is either arithmetic or enumeration"},
+      {"structure aggregate", make(0, 's'), 1, true, ""},
+      {"int aggregate", make(4), 1, true, "the required operand type is aggregate"},
+  };
+  Options options;
+  std::ostringstream err;
+  Diagnostics diag(err, options);
+  TokenBuffer tokens;
+  Workspace ws(options, diag);
+  Translator t(options, diag, tokens, ws, "zz");
+  for (const ClassRow& r : rows)
+    EXPECT_EQ(t.class_message(r.entry, r.cls, r.refuse_aggregates), r.message) << r.what;
+}
+
 // ---- Values and code ---------------------------------------------------------------------------
 
 TEST(TranslateExpressions, OperatorsKeepTheSourceGrouping) {
