@@ -175,7 +175,6 @@ class Translator : public Declarations {
     bool labelled = false;
   };
   std::vector<Frame> frames_;
-  bool last_ends_with_label_ = false;
 
   struct LoopEntry {
     char kind;  // 'p' loop, 's' switch
