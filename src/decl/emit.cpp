@@ -114,35 +114,58 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
   return t + ";";
 }
 
+void Emitter::out(char newline_bgn, const std::string& text) {
+  if (!into_locals_) {
+    ws_.put_text(newline_bgn, text);
+    return;
+  }
+  if (newline_bgn == 'y') ws_.wd_locals += "\n" + std::string(static_cast<size_t>(locals_indent_), ' ');
+  ws_.wd_locals += text;
+}
+
+void Emitter::in() {
+  if (into_locals_)
+    locals_indent_ += 3;
+  else
+    ws_.indent_in();
+}
+
+void Emitter::out_dent() {
+  if (into_locals_)
+    locals_indent_ = locals_indent_ >= 3 ? locals_indent_ - 3 : 0;
+  else
+    ws_.indent_out();
+}
+
 void Emitter::emit_struct(int sub) {
-  ws_.put_text('n', "\nstruct " + tag_name(sub) + " {");
-  ws_.indent_in();
+  out('n', "\nstruct " + tag_name(sub) + " {");
+  in();
   for (int m = sub + 1; m < body_end(sub); ++m) {
     const Symbol& s = symbols_[m];
     if (s.owner != sub || s.name_class != 'c') continue;
     ws_.note_dimensions(s.dim_count());
-    ws_.put_text('y', variable_text(m, true, false));
-    if (s.dim_count() > 0 && s.is_var == 'n') ws_.put_text('y', companion_text(m, true, false, 0));
+    out('y', variable_text(m, true, false));
+    if (s.dim_count() > 0 && s.is_var == 'n') out('y', companion_text(m, true, false, 0));
   }
-  ws_.indent_out();
-  ws_.put_text('y', "};\n");
+  out_dent();
+  out('y', "};\n");
 }
 
 void Emitter::emit_enum(int sub) {
-  ws_.put_text('n', "\nenum " + tag_name(sub) + " {");
-  ws_.indent_in();
+  out('n', "\nenum " + tag_name(sub) + " {");
+  in();
   // The constants are numbered from 1: 0 stays free as the "no value" of every enumeration.
   int number = 0;
   std::string pending;
   for (int c = sub + 1; c < body_end(sub); ++c) {
     const Symbol& s = symbols_[c];
     if (s.owner != sub || s.name_is != 'c') continue;
-    if (!pending.empty()) ws_.put_text('y', pending + ",");
+    if (!pending.empty()) out('y', pending + ",");
     pending = strf("%s = %d", s.name.c_str(), ++number);
   }
-  if (!pending.empty()) ws_.put_text('y', pending);
-  ws_.indent_out();
-  ws_.put_text('y', "};\n");
+  if (!pending.empty()) out('y', pending);
+  out_dent();
+  out('y', "};\n");
 }
 
 void Emitter::emit_tag(int sub) {
@@ -184,8 +207,15 @@ void Emitter::local_declaration(int sub, bool nested) {
   const Symbol& s = symbols_[sub];
   if (s.error_flags) return;
   if (s.name_is == 's' || s.name_is == 'e') {
-    // C allows the definition inside the function; it stays with the locals.
-    if (!nested) emit_tag(sub);
+    // The definition stands with the locals, before the variables of its type.
+    if (nested) {
+      ws_.open_block_brace();
+      emit_tag(sub);
+      return;
+    }
+    into_locals_ = true;
+    emit_tag(sub);
+    into_locals_ = false;
     return;
   }
   if (s.name_is != 'v' || s.name_class != 'o') return;

@@ -45,6 +45,11 @@ class Emitter {
   std::string variable_text(int sub, bool member, bool local) const;
   std::string companion_text(int sub, bool member, bool local, int initial_occurs) const;
   void emit_tag(int sub);
+  // Where structure and enumeration definitions go: the code workspace, or
+  // the function's locals slot for a definition at the top of a body.
+  void out(char newline_bgn, const std::string& text);
+  void in();
+  void out_dent();
   void emit_struct(int sub);
   void emit_enum(int sub);
   void walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
@@ -62,6 +67,8 @@ class Emitter {
   std::string prefix_;
   std::vector<char> emitted_;  // tags already written, by symbol number
   int walk_counters_ = 0;      // loop counters declared in the current function
+  bool into_locals_ = false;
+  int locals_indent_ = 0;
 };
 
 }  // namespace ycc
