@@ -22,22 +22,6 @@ TEST(TranslateStatements, IfWithAndWithoutElse) {
   EXPECT_EQ(u.messages(), "");
 }
 
-TEST(TranslateStatements, WhileLoopAndBreakToItsFalseLabel) {
-  TranslateRun t;
-  EXPECT_EQ(t.run(in_function("while (a) { if (b) break; x = 1; }")),
-            "\nzzzz_cont1:\nif(!(a)) goto zzzz_false1;\nif(!(b)) goto zzzz_false2;\ngoto "
-            "zzzz_false1;\nzzzz_false2:\nx = 1;\ngoto zzzz_cont1;\nzzzz_false1:");
-}
-
-TEST(TranslateStatements, ContinueInsideSwitchInsideWhileJumpsToTheLoop) {
-  TranslateRun t;
-  std::string body = t.run(in_function("while (a) switch (b) { case 1: continue; default: break; }"));
-  EXPECT_EQ(body,
-            "\nzzzz_cont1:\nif(!(a)) goto zzzz_false1;\nswitch(b)\n{\nbreak;\ncase 1:\ngoto "
-            "zzzz_cont1;\nbreak;\ndefault:\nbreak;\n;}\ngoto zzzz_cont1;\nzzzz_false1:");
-  EXPECT_EQ(t.messages(), "");
-}
-
 TEST(TranslateStatements, DoLoopUsesItsOwnFalseLabelInTheTest) {
   TranslateRun t;
   EXPECT_EQ(t.run(in_function("do { if (b) continue; --a; } while (a > 0);")),
@@ -52,12 +36,6 @@ TEST(TranslateStatements, DoConditionInJumpFormIsRewrittenToTheLoopExit) {
             "zzzz_false1;\ngoto zzzz_cont2;\nzzzz_false1:");
 }
 
-TEST(TranslateStatements, ForWithoutHeadsHasNoTest) {
-  TranslateRun t;
-  EXPECT_EQ(t.run(in_function("for (;;) break;")),
-            "\nzzzz_cont2:\ngoto zzzz_false1;\nzzzz_cont1:\ngoto zzzz_cont2;\nzzzz_false1:");
-}
-
 TEST(TranslateStatements, ForWithEveryHead) {
   TranslateRun t;
   EXPECT_EQ(t.run(in_function("for (a = 0; a < 10; ++a) x = x + a;")),
@@ -67,21 +45,6 @@ TEST(TranslateStatements, ForWithEveryHead) {
   EXPECT_EQ(u.run(in_function("for (; a; ) continue;")),
             "\nzzzz_cont2:\nif(!(a)) goto zzzz_false1;\ngoto zzzz_cont1;\nzzzz_cont1:\ngoto "
             "zzzz_cont2;\nzzzz_false1:");
-}
-
-TEST(TranslateStatements, MisplacedBreakAndContinue) {
-  TranslateRun t;
-  t.run(in_function("break;\ncontinue;\nswitch (a) { case 1: continue; }"));
-  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "3 error: illegal placement of break: there is no enclosing while, do, for, or switch statement",
-              "4 error: illegal placement of continue: there is no enclosing while, do, or for statement",
-              "5 error: illegal placement of continue: there is no enclosing while, do, or for statement"}));
-}
-
-TEST(TranslateStatements, ConsecutiveCaseLabelsGetOneBreak) {
-  TranslateRun t;
-  EXPECT_EQ(t.run(in_function("switch (a) { case 1: case 2: x = 1; case -3: x = 2; }")),
-            "\nswitch(a)\n{\nbreak;\ncase 1:\ncase 2:\nx = 1;\nbreak;\ncase -3:\nx = 2;\n;}");
 }
 
 TEST(TranslateStatements, StatementLabelsAndHandlersInASwitchSetNoBreak) {
@@ -126,34 +89,6 @@ TEST(TranslateStatements, CaseLabelErrors) {
               "16 error: a default label can only appear within a switch statement"}));
 }
 
-TEST(TranslateStatements, EnumerationSwitchCoverage) {
-  const std::string two = "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; }";
-  TranslateRun missing;
-  missing.run(in_function(two, color));
-  EXPECT_EQ(missing.message_list(), (std::vector<std::string>{
-              "7 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
-
-  TranslateRun with_default;
-  EXPECT_EQ(with_default.run(in_function(
-                "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; default: x = 0; }",
-                color)),
-            "\nk = red;\nswitch(k)\n{\nbreak;\ncase red:\nx = 1;\nbreak;\ncase green:\nx = 2;\nbreak;"
-            "\ndefault:\nx = 0;\n;}");
-  EXPECT_EQ(with_default.messages(), "");
-
-  TranslateRun all_three;
-  all_three.run(in_function(
-      "enum color k;\nk = red;\nswitch (k) { case red: x = 1; case green: x = 2; case blue: x = 3; }", color));
-  EXPECT_EQ(all_three.messages(), "");
-
-  // case 0 is accepted and does not count as a constant.
-  TranslateRun zero;
-  zero.run(in_function(
-      "enum color k;\nk = red;\nswitch (k) { case 0: x = 0; case red: x = 1; case green: x = 2; }", color));
-  EXPECT_EQ(zero.message_list(), (std::vector<std::string>{
-              "7 error: the enumeration type 'color' has 3 enumeration constants, but this switch statement has case labels for only 2 of those enumeration constants, and there is no 'default' label"}));
-}
-
 TEST(TranslateStatements, EnumerationSwitchLabelErrors) {
   TranslateRun t;
   t.run(in_function("enum color k;\nk = red;\nswitch (k) {\ncase 1: x = 1;\ncase small: x = 2;\n"
@@ -181,44 +116,12 @@ TEST(TranslateStatements, StatementLabelsAndGoto) {
   EXPECT_EQ(t.messages(), "");
 }
 
-TEST(TranslateStatements, DuplicateUnreferencedAndUndefinedLabels) {
-  TranslateRun t;
-  t.run(in_function("here: x = 1;\nhere: x = 2;\nthere: x = 3;\ngoto nowhere;\ngoto here;"));
-  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "4 error: statement label 'here' is a duplicate: defined elsewhere in this function",
-              "5 warning: statement label 'there' is unreferenced in this function",
-              "6 error: the goto label 'nowhere' is not defined as a statement label in this function"}));
-  TranslateRun quiet;
-  quiet.options.warning_level = 1;
-  quiet.run(in_function("there: x = 3;"));
-  EXPECT_EQ(quiet.messages(), "");
-  TranslateRun level2;
-  level2.options.warning_level = 2;
-  level2.run(in_function("there: x = 3;"));
-  EXPECT_EQ(level2.message_list(), (std::vector<std::string>{
-              "3 warning: statement label 'there' is unreferenced in this function"}));
-}
-
 TEST(TranslateStatements, ExceptionsRaiseAndReturn) {
   TranslateRun t;
   EXPECT_EQ(t.run(in_function("if (a) raise 7;\nreturn;\nexception 7: x = 1;\nexception 32000: x = 2;")),
             "\nif(!(a)) goto zzzz_false1;\nzzzz_exception = 7;\ngoto zzzz_finish;\nzzzz_false1:\ngoto "
             "zzzz_finish;\nzzzz_exception7:\nx = 1;\nzzzz_exception32000:\nx = 2;");
   EXPECT_EQ(t.messages(), "");
-}
-
-TEST(TranslateStatements, ExceptionNumberChecksAndDuplicates) {
-  TranslateRun t;
-  t.run(in_function("raise 0;\nraise 32001;\nexception 5: x = 1;\nexception 5: x = 2;\nexception 0: x = 3;"));
-  EXPECT_EQ(t.message_list(), (std::vector<std::string>{
-              "3 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid",
-              "4 error: an exception number must be between 1 and 32000 inclusive: number '32001' is invalid",
-              "6 error: duplicate : the function has more than a single handler defined for exception 5",
-              "7 error: an exception number must be between 1 and 32000 inclusive: number '0' is invalid"}));
-  // Handlers for one number in two functions are fine.
-  TranslateRun two;
-  two.run("f();\ng();\nf()\n{\nexception 5: ;\n}\ng()\n{\nexception 5: ;\n}\n");
-  EXPECT_EQ(two.messages(), "");
 }
 
 TEST(TranslateStatements, ControlExpressionClassIsChecked) {
