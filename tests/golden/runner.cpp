@@ -146,15 +146,22 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
                  bool link_only) {
   std::string c_file = trimmed(slurp(case_dir / (link_only ? "link" : "run")));
   struct Cc {
-    const char* name;
+    const char* name;   // the compiler
+    const char* label;  // how reports name this build
     const char* flags;
   };
-  const Cc compilers[] = {{"gcc", "-std=c99 -pedantic-errors -Wall"},
-                          {"clang", "-std=c99 -pedantic-errors -Wall"},
-                          {"tcc", ""}};
+  // The sanitizer build checks that generated programs never read or write
+  // out of bounds or overflow where C leaves the behaviour undefined.
+  const Cc compilers[] = {
+      {"gcc", "gcc", "-std=c99 -pedantic-errors -Wall"},
+      {"clang", "clang", "-std=c99 -pedantic-errors -Wall"},
+      {"tcc", "tcc", ""},
+      {"gcc", "gcc-sanitized", "-std=c99 -fsanitize=address,undefined -fno-sanitize-recover=undefined"},
+  };
   for (const Cc& cc : compilers) {
     if (!have(cc.name)) continue;
-    std::string exe = std::string("prog_") + cc.name;
+    if (link_only && std::string(cc.label) != cc.name) continue;
+    std::string exe = std::string("prog_") + cc.label;
     std::vector<std::string> words = words_of(std::string(cc.flags));
     words.push_back("-I" + runtime.string());
     words.push_back("-o");
@@ -172,14 +179,15 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
     Outcome built = run_in(work, path, cc.name, words, {});
     if (built.status != 0) {
       ++failures;
-      std::cout << "--- " << cc.name << " failed to build " << c_file << ":\n" << built.err;
+      std::cout << "--- " << cc.label << " failed to build " << c_file << ":\n" << built.err;
       continue;
     }
     if (link_only) continue;
-    Outcome ran = run_in(work, (work / exe).string(), exe, {}, {});
-    compare_text(case_dir / "run.stdout", ran.out, std::string(cc.name) + " program stdout");
-    compare_text(case_dir / "run.stderr", ran.err, std::string(cc.name) + " program stderr");
-    compare_status(case_dir / "run.status", ran.status, std::string(cc.name) + " program status");
+    // The run-time entry keeps the argument copies until the process ends.
+    Outcome ran = run_in(work, (work / exe).string(), exe, {}, {"ASAN_OPTIONS=detect_leaks=0"});
+    compare_text(case_dir / "run.stdout", ran.out, std::string(cc.label) + " program stdout");
+    compare_text(case_dir / "run.stderr", ran.err, std::string(cc.label) + " program stderr");
+    compare_status(case_dir / "run.status", ran.status, std::string(cc.label) + " program status");
   }
 }
 
