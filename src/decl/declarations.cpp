@@ -74,15 +74,8 @@ bool Declarations::is_typedef_name(std::string_view name) {
   return symbols_.find_typedef(name) != 0;
 }
 
-int Declarations::resolve_type(int type_sym) const {
-  // Follows typedef names down to the structure, enumeration or fun type.
-  for (int guard = 0; type_sym && symbols_[type_sym].name_is == 't' && guard < 1000; ++guard)
-    type_sym = symbols_[type_sym].type_sym;
-  return type_sym;
-}
-
 bool Declarations::type_is_struct(int type_sym, int* tag) const {
-  int t = resolve_type(type_sym);
+  int t = symbols_.resolve_type(type_sym);
   if (t && symbols_[t].name_is == 's') {
     if (tag) *tag = t;
     return true;
@@ -374,7 +367,7 @@ void Declarations::join_vf_list(int member, int structure) {
       if (symbols_[member_struct].vf_flags[k] == 'y') st.vf_flags[k] = 'y';
     if (symbols_[member_struct].contains_fun_ptr == 'y') st.contains_fun_ptr = 'y';
   }
-  int t = resolve_type(m.type_sym);
+  int t = symbols_.resolve_type(m.type_sym);
   if (t && symbols_[t].name_is == 'n') st.contains_fun_ptr = 'y';
 }
 

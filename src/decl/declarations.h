@@ -113,7 +113,6 @@ class Declarations : public Actions {
   void check_redefinition(int sub, int line);
   void join_vf_list(int member, int structure);
   bool type_is_struct(int type_sym, int* tag = nullptr) const;
-  int resolve_type(int type_sym) const;
   const char* list_name() const;
   // Warns of the block's ordinary locals that were never referenced.
   void report_unreferenced(int first);

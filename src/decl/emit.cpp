@@ -22,12 +22,6 @@ std::string Emitter::companion_name(int sub) const {
 
 std::string Emitter::meta_type(int dims) const { return strf("%s%dD_meta", prefix_.c_str(), dims); }
 
-int Emitter::resolve(int type_sym) const {
-  for (int guard = 0; type_sym && symbols_[type_sym].name_is == 't' && guard < 1000; ++guard)
-    type_sym = symbols_[type_sym].type_sym;
-  return type_sym;
-}
-
 std::string Emitter::tag_name(int sub) const {
   const Symbol& s = symbols_[sub];
   if (s.anonymous()) return strf("%s%d_tag", prefix_.c_str(), s.serial);
@@ -41,9 +35,8 @@ std::string Emitter::function_name(int sub) const {
 
 std::string Emitter::element_type(int sub) const {
   const Symbol& s = symbols_[sub];
-  int t = resolve(s.type_sym);
-  int bits = s.type_bits;
-  if (s.type_sym && symbols_[s.type_sym].name_is == 't') bits = symbols_[s.type_sym].type_bits;
+  int t = symbols_.resolve_type(s.type_sym);
+  int bits = symbols_.type_bits_of(sub);
   if (t) {
     switch (symbols_[t].name_is) {
       case 's': return "struct " + tag_name(t);
@@ -68,7 +61,7 @@ std::string Emitter::parameter(int sub, bool with_name) const {
   auto join = [&](const std::string& type) { return name.empty() ? type : type + " " + name; };
   if (s.role[0] == 'a') return join("void *");
   if (s.dim_count() > 0) return "struct " + meta_type(s.dim_count()) + " *" + name;
-  int t = resolve(s.type_sym);
+  int t = symbols_.resolve_type(s.type_sym);
   if (t && symbols_[t].name_is == 's') return "struct " + tag_name(t) + " *" + name;
   if (t && symbols_[t].name_is == 'n') return fun_pointer(t, name);
   return join(element_type(sub));
@@ -85,7 +78,7 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
     if (!is_extern && !member) t += " = {NULL}";
     return t + ";";
   }
-  int f = resolve(s.type_sym);
+  int f = symbols_.resolve_type(s.type_sym);
   if (f && symbols_[f].name_is == 'n')
     t += fun_pointer(f, s.name);
   else
@@ -270,7 +263,7 @@ void Emitter::function_heading(int f, bool definition) {
   std::string ret = generated("return_ptr");
   for (size_t i = 0; i < returns.size(); ++i) {
     const Symbol& r = symbols_[returns[i]];
-    int t = resolve(r.type_sym);
+    int t = symbols_.resolve_type(r.type_sym);
     bool is_struct = t && symbols_[t].name_is == 's';
     if (r.dim_count() > 0 || is_struct) {
       std::string type = r.dim_count() > 0 ? meta_type(r.dim_count()) : tag_name(t);
@@ -294,7 +287,7 @@ void Emitter::function_closing(int f) {
     const Symbol& r = symbols_[p];
     if (r.p_or_r != 'r') continue;
     ++index;
-    int t = resolve(r.type_sym);
+    int t = symbols_.resolve_type(r.type_sym);
     if (r.dim_count() > 0 || (t && symbols_[t].name_is == 's')) continue;
     if (t && symbols_[t].name_is == 'n')
       // A pointer to the caller's function pointer: "void (**) (...)".
@@ -324,7 +317,7 @@ void Emitter::walk_varspaces(int sub, const std::string& object, const std::stri
                              std::string& out, int depth) {
   const Symbol& s = symbols_[sub];
   std::string indent(static_cast<size_t>(depth) * 3, ' ');
-  int t = resolve(s.type_sym);
+  int t = symbols_.resolve_type(s.type_sym);
   bool nests = t && symbols_[t].name_is == 's' && !symbols_[t].vf.empty();
   std::string path = object + ".";
   if (s.dim_count() > 0 && nests) {

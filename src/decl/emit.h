@@ -60,7 +60,6 @@ class Emitter {
   // Where the members of a tag end.
   int body_end(int sub) const;
   bool is_space(int sub) const { return symbols_[sub].dim_count() > 0; }
-  int resolve(int type_sym) const;
 
   SymbolTable& symbols_;
   Workspace& ws_;

@@ -19,18 +19,7 @@ int exact_group(int bits) {
   }
 }
 
-int effective_bits(const SymbolTable& symbols, const Symbol& s) {
-  if (s.type_sym && symbols[s.type_sym].name_is == 't') return symbols[s.type_sym].type_bits;
-  return s.type_bits;
-}
-
 }  // namespace
-
-int resolve_typedef(const SymbolTable& symbols, int type_sym) {
-  for (int guard = 0; type_sym && symbols[type_sym].name_is == 't' && guard < 1000; ++guard)
-    type_sym = symbols[type_sym].type_sym;
-  return type_sym;
-}
 
 FunctionLists function_lists(const SymbolTable& symbols, int f) {
   FunctionLists l;
@@ -49,8 +38,8 @@ FunctionLists function_lists(const SymbolTable& symbols, int f) {
 const char* parameter_mismatch(const SymbolTable& symbols, int a, int b, bool with_resize) {
   const Symbol& x = symbols[a];
   const Symbol& y = symbols[b];
-  if (exact_group(effective_bits(symbols, x)) != exact_group(effective_bits(symbols, y))) return "type";
-  int tx = resolve_typedef(symbols, x.type_sym), ty = resolve_typedef(symbols, y.type_sym);
+  if (exact_group(symbols.type_bits_of(a)) != exact_group(symbols.type_bits_of(b))) return "type";
+  int tx = symbols.resolve_type(x.type_sym), ty = symbols.resolve_type(y.type_sym);
   if (tx != ty) {
     bool both_fun = tx && ty && symbols[tx].name_is == 'n' && symbols[ty].name_is == 'n';
     if (!both_fun || !fun_type_mismatch(symbols, tx, ty).empty()) return "type";

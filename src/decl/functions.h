@@ -26,7 +26,4 @@ std::string fun_type_mismatch(const SymbolTable& symbols, int fa, int fb);
 // The messages of a definition compared with its prototype, in order.
 std::vector<std::string> compare_with_prototype(const SymbolTable& symbols, int definition, int prototype);
 
-// Follows typedef names to the type they stand for.
-int resolve_typedef(const SymbolTable& symbols, int type_sym);
-
 }  // namespace ycc

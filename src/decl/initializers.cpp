@@ -62,13 +62,8 @@ class InitWalk {
   }
   bool char_element(int sub) const {
     const Symbol& s = sy_[sub];
-    int t = resolve_typedef(sy_, s.type_sym);
-    int bits = s.type_sym && sy_[s.type_sym].name_is == 't' ? sy_[s.type_sym].type_bits : s.type_bits;
-    return !t && (bits & TB_CHAR);
-  }
-  int type_bits(int sub) const {
-    const Symbol& s = sy_[sub];
-    return s.type_sym && sy_[s.type_sym].name_is == 't' ? sy_[s.type_sym].type_bits : s.type_bits;
+    int t = sy_.resolve_type(s.type_sym);
+    return !t && (sy_.type_bits_of(sub) & TB_CHAR);
   }
 
   // Skips to the "}" that closes the level being read (not consuming it).
@@ -185,7 +180,7 @@ class InitWalk {
       }
       return;
     }
-    int t = resolve_typedef(sy_, s.type_sym);
+    int t = sy_.resolve_type(s.type_sym);
     if (t && sy_[t].name_is == 's') {
       if (peek()->kind != '{') {
         expect_brace(sub, in_struct);
@@ -229,7 +224,7 @@ class InitWalk {
                 sy_[var_].shown_name().c_str(), item.text.c_str(), item.sign));
       return;
     }
-    int t = resolve_typedef(sy_, s.type_sym);
+    int t = sy_.resolve_type(s.type_sym);
     char kind = t ? sy_[t].name_is : 0;  // 'e' enumeration, 'n' fun type
     auto mismatch = [&] {
       fail(strf("the type of initializer '%s' does not match the type of target variable '%s'%s",
@@ -247,7 +242,7 @@ class InitWalk {
             mismatch();
           return;
         }
-        int bits = type_bits(sub);
+        int bits = sy_.type_bits_of(sub);
         std::string words = type_words(bits);
         if (item.overflow)
           diag_.warning(item.line,

@@ -65,6 +65,17 @@ int SymbolTable::find_typedef(std::string_view name) const {
   return list == typedefs_.end() || list->second.empty() ? 0 : list->second.back();
 }
 
+int SymbolTable::resolve_type(int type_sym) const {
+  for (int guard = 0; type_sym && (*this)[type_sym].name_is == 't' && guard < 1000; ++guard)
+    type_sym = (*this)[type_sym].type_sym;
+  return type_sym;
+}
+
+int SymbolTable::type_bits_of(int sub) const {
+  const Symbol& s = (*this)[sub];
+  return s.type_sym && (*this)[s.type_sym].name_is == 't' ? (*this)[s.type_sym].type_bits : s.type_bits;
+}
+
 int SymbolTable::find_other(char name_class, std::string_view name, int except) const {
   auto list = by_name_.find(stored_name(name));
   if (list == by_name_.end()) return 0;

@@ -93,6 +93,11 @@ class SymbolTable {
   // An entry of the class and name visible in the current scope, or 0.
   int find_in_scope(char name_class, std::string_view name, int owner = 0) const;
   int find_typedef(std::string_view name) const;
+  // Follows typedef names to the structure, enumeration or fun type they
+  // stand for (0 for a basic type).
+  int resolve_type(int type_sym) const;
+  // The basic type bits of an entry, read through its typedef name.
+  int type_bits_of(int sub) const;
   // The newest other entry of the class and name anywhere in the table, or 0.
   int find_other(char name_class, std::string_view name, int except) const;
   // An older tag ('s', 'e' or 'n') of that name, below `before`, or 0.

@@ -459,9 +459,13 @@ void Translator::logical_and(const Token& op) {
   std::string& joined = code(left);
   joined += right_code;
   if (!rv.jump_form()) joined += strf("\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
-  Entry& e = entry(left);
-  e.false_label = common;
-  e.true_label = rv.true_label;
+  become_jump_form(entry(left), common, rv.true_label, reported);
+}
+
+// The result of && and ||: an int known only through its two labels.
+void Translator::become_jump_form(Entry& e, int false_label, int true_label, bool reported) {
+  e.false_label = false_label;
+  e.true_label = true_label;
   e.value.clear();
   e.type_bits = 4;
   e.kind = 0;
@@ -499,15 +503,7 @@ void Translator::logical_or(const Token& op) {
   std::string& joined = code(left);
   joined += right_code;
   if (!rv.jump_form()) joined += strf("\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
-  Entry& e = entry(left);
-  e.true_label = common;
-  e.false_label = rv.false_label;
-  e.value.clear();
-  e.type_bits = 4;
-  e.kind = 0;
-  e.type_sym = 0;
-  e.lvalue = e.literal = e.emit = e.empty = false;
-  e.reported = reported;
+  become_jump_form(entry(left), rv.false_label, common, reported);
 }
 
 void Translator::conditional(const Token& question, const Token& colon) {

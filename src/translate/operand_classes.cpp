@@ -132,7 +132,7 @@ bool Translator::same_function_type(int a, int b) const {
     bool p_ret = p.p_or_r == 'r' || p.p_or_r == 'b';
     bool q_ret = q.p_or_r == 'r' || q.p_or_r == 'b';
     if (p_ret != q_ret || p.type_bits != q.type_bits || p.dim_count() != q.dim_count() ||
-        p.is_var != q.is_var || resolve_type(p.type_sym) != resolve_type(q.type_sym))
+        p.is_var != q.is_var || symbols_.resolve_type(p.type_sym) != symbols_.resolve_type(q.type_sym))
       return false;
   }
   return true;

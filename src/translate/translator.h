@@ -231,6 +231,7 @@ class Translator : public Declarations {
 
   // The type name of the last cast or sizeof, typedefs resolved.
   void resolve_type_name();
+  void become_jump_form(Entry& e, int false_label, int true_label, bool reported);
   int type_name_bits_ = 0;
   int type_name_sym_ = 0;
 };
