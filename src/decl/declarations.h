@@ -15,7 +15,7 @@
 #include "diag/diagnostics.h"
 #include "front/actions.h"
 #include "front/lexer.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

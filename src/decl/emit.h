@@ -7,7 +7,7 @@
 #include <string>
 
 #include "decl/symbol_table.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

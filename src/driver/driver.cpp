@@ -7,7 +7,7 @@
 #include "common/text.h"
 #include "diag/diagnostics.h"
 #include "driver/command_line.h"
-#include "front/compile_pass.h"
+#include "compile/compile_pass.h"
 #include "preprocessor/preprocessor.h"
 
 namespace ycc {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "decl/declarations.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "common/text.h"
-#include "front/compile_pass.h"
+#include "compile/compile_pass.h"
 
 namespace ycc {
 namespace {

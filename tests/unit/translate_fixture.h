@@ -11,7 +11,7 @@
 #include "front/lexer.h"
 #include "front/parser.h"
 #include "front/syntax_errors.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 #include "translate/translator.h"
 
 namespace ycc::testing {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "common/text.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 namespace {

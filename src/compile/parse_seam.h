@@ -8,7 +8,7 @@
 #include "diag/diagnostics.h"
 #include "front/lexer.h"
 #include "front/syntax_errors.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "common/text.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

@@ -1,4 +1,4 @@
-#include "front/compile_pass.h"
+#include "compile/compile_pass.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -6,7 +6,7 @@
 
 #include "common/text.h"
 #include "front/lexer.h"
-#include "front/parse_seam.h"
+#include "compile/parse_seam.h"
 #include "front/parser.h"
 #include "front/syntax_errors.h"
 

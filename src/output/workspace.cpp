@@ -1,4 +1,4 @@
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 #include <cerrno>
 

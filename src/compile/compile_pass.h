@@ -6,7 +6,7 @@
 
 #include "common/options.h"
 #include "diag/diagnostics.h"
-#include "front/workspace.h"
+#include "output/workspace.h"
 
 namespace ycc {
 

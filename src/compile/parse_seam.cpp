@@ -1,6 +1,6 @@
 // The start rule of the grammar for the compile pass: the parser over the
 // file's tokens, with the grammar actions of the compiler.
-#include "front/parse_seam.h"
+#include "compile/parse_seam.h"
 
 #include "translate/translator.h"
 #include "front/parser.h"
