@@ -2,24 +2,24 @@
 // file's tokens, with the grammar actions of the compiler.
 #include "compile/parse_seam.h"
 
-#include "translate/translator.h"
+#include "compile/file_actions.h"
 #include "front/parser.h"
 
 namespace ycc {
 
 void run_start_rule(ParseContext& ctx) {
-  Translator actions(ctx.options, ctx.diag, ctx.tokens, ctx.workspace, ctx.prefix);
+  FileActions actions(ctx.options, ctx.diag, ctx.tokens, ctx.workspace, ctx.prefix);
   struct DumpAtEnd {
     ParseContext& ctx;
-    Translator& actions;
+    FileActions& actions;
     ~DumpAtEnd() {
       if (!ctx.options.dump_symbols) return;
       ctx.diag.flush();  // the messages of the file first, then what the table holds
-      actions.symbols().dump(ctx.diag.err());
+      actions.declarations().symbols().dump(ctx.diag.err());
     }
   } dump{ctx, actions};
   parse_translation_unit(ctx.tokens.tokens, actions, ctx.syntax);
-  if (actions.declared_anything()) ctx.workspace.note_emitted();
+  if (actions.declarations().declared_anything()) ctx.workspace.note_emitted();
 }
 
 }  // namespace ycc

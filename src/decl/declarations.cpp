@@ -58,12 +58,8 @@ int clamp_int(long long v) {
 }  // namespace
 
 Declarations::Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens,
-                           Workspace& ws)
-    : options_(options),
-      diag_(diag),
-      tokens_(tokens),
-      ws_(ws),
-      emit_(symbols_, ws, options.prefix.empty() ? std::string("zz") : options.prefix) {}
+                           Workspace& ws, const Names& names)
+    : options_(options), diag_(diag), tokens_(tokens), ws_(ws), emit_(symbols_, ws, names) {}
 
 void Declarations::error(int line, int sub, int bit, const std::string& text) {
   diag_.error(line, text);
@@ -240,7 +236,15 @@ void Declarations::end_tag_body(TagKind kind, const Token&) {
     symbols_[functions_.back().entry].body_end = symbols_.count();
     functions_.pop_back();
   } else if (!tags_.empty()) {
-    symbols_[tags_.back()].body_end = symbols_.count();
+    Symbol& tag = symbols_[tags_.back()];
+    int sub = tags_.back();
+    tag.body_end = symbols_.count();
+    if (tag.name_is == 'e') {
+      int constants = 0;
+      for (int c = sub + 1; c < tag.body_end; ++c)
+        if (symbols_[c].name_is == 'c' && symbols_[c].owner == sub) ++constants;
+      symbols_[sub].enum_count = constants;
+    }
     tags_.pop_back();
   }
 }
@@ -295,7 +299,8 @@ void Declarations::add_dimension(bool has_size, const Token& lbracket) {
   }
   if (!sub) return;
   symbols_[sub].dims.push_back(dim);
-  max_dims_ = std::max(max_dims_, symbols_[sub].dim_count());
+  // Every dimension count met needs its meta record type, prototypes' included.
+  ws_.note_dimensions(symbols_[sub].dim_count());
 }
 
 void Declarations::add_resize_group(bool has_number, bool has_percent, const Token& lbracket) {
@@ -780,8 +785,21 @@ void Declarations::begin_type_name(const Token& first) {
 void Declarations::end_type_name(const Token&) {
   if (decls_.empty()) return;
   const DeclState& d = decls_.back();
-  type_name_ = {d.type_bits, d.type_sym, d.spec_errors != 0};
+  TypeName t{d.type_bits, d.type_sym, d.spec_errors != 0};
+  // Typedef names stand for their type.
+  for (int guard = 0; t.type_sym && symbols_[t.type_sym].name_is == 't' && guard < 1000; ++guard) {
+    t.type_bits |= symbols_[t.type_sym].type_bits;
+    t.type_sym = symbols_[t.type_sym].type_sym;
+  }
+  type_names_.push_back(t);
   decls_.pop_back();
+}
+
+TypeName Declarations::pop_type_name() {
+  if (type_names_.empty()) return TypeName{0, 0, true};
+  TypeName t = type_names_.back();
+  type_names_.pop_back();
+  return t;
 }
 
 // ---- initializers ----------------------------------------------------------------

@@ -1,12 +1,14 @@
 // The declaration actions: every specifier, tag, declarator, dimension and
 // resize group the parser meets is recorded in the symbol table and checked
-// by the rules that make spaces safe. The translation of statements and
-// expressions builds on this class.
+// by the rules that make spaces safe, and complete declarations are emitted.
+// The translation of statements and expressions reaches the symbol table,
+// the emitter, the constant stack and the type names through this class.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include "common/names.h"
 #include "common/options.h"
 #include "decl/constants.h"
 #include "decl/emit.h"
@@ -19,65 +21,77 @@
 
 namespace ycc {
 
-class Declarations : public Actions {
+// The type of a cast or sizeof: basic type bits and the structure,
+// enumeration or fun type, typedef names followed; `bad` after a specifier error.
+struct TypeName {
+  int type_bits = 0;
+  int type_sym = 0;
+  bool bad = false;
+};
+
+class Declarations {
  public:
-  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens, Workspace& ws);
+  Declarations(const Options& options, Diagnostics& diag, const TokenBuffer& tokens, Workspace& ws,
+               const Names& names);
 
   SymbolTable& symbols() { return symbols_; }
-  // The largest dimension count met in the file.
-  int max_dimensions() const { return max_dims_; }
+  const Emitter& emitter() const { return emit_; }
   // Whether any declaration or function was complete without errors.
   bool declared_anything() const { return declared_anything_; }
 
-  bool is_typedef_name(std::string_view name) override;
+  bool is_typedef_name(std::string_view name);
 
-  void begin_declaration(DeclContext ctx, const Token& first) override;
-  void add_storage_class(const Token& t) override;
-  void add_type_keyword(const Token& t) override;
-  void add_var_qualifier(const Token& t) override;
-  void use_typedef_name(const Token& name) override;
-  void use_tag(TagKind kind, const Token& tag) override;
-  void declare_tag(TagKind kind, const Token* tag, const Token& at, bool has_body) override;
-  void enumerator(const Token& name) override;
-  void end_tag_body(TagKind kind, const Token& last) override;
-  void begin_declarator(const Token& first) override;
-  void declarator_name(const Token& name) override;
-  void add_dimension(bool has_size, const Token& lbracket) override;
-  void add_resize_group(bool has_number, bool has_percent, const Token& lbracket) override;
-  void complete_declarator(const Token* name, bool initialized) override;
-  void complete_tag_only_declaration(const Token& semicolon) override;
-  void end_declaration(DeclContext ctx, const Token& semicolon) override;
+  void begin_declaration(DeclContext ctx, const Token& first);
+  void add_storage_class(const Token& t);
+  void add_type_keyword(const Token& t);
+  void add_var_qualifier(const Token& t);
+  void use_typedef_name(const Token& name);
+  void use_tag(TagKind kind, const Token& tag);
+  void declare_tag(TagKind kind, const Token* tag, const Token& at, bool has_body);
+  void enumerator(const Token& name);
+  void end_tag_body(TagKind kind, const Token& last);
+  void begin_declarator(const Token& first);
+  void declarator_name(const Token& name);
+  void add_dimension(bool has_size, const Token& lbracket);
+  void add_resize_group(bool has_number, bool has_percent, const Token& lbracket);
+  void complete_declarator(const Token* name, bool initialized);
+  void complete_tag_only_declaration(const Token& semicolon);
+  void end_declaration(DeclContext ctx, const Token& semicolon);
 
-  void enter_function_name(const Token& name, bool is_static, bool is_definition) override;
-  void begin_parameter_list(ListOwner owner, const Token& lparen) override;
-  void parameter_any(const Token& any) override;
-  void parameter_ellipsis(const Token& ellipsis) override;
-  void end_parameter_list(ListOwner owner, const Token& rparen) override;
-  void begin_return_list(ListOwner owner, const Token& first) override;
-  void end_return_list(ListOwner owner, const Token& last) override;
-  void finish_function(const Token& name, bool is_definition) override;
-  void open_function_body(const Token& lbrace, const FunctionLabels& labels) override;
-  void close_function_body(const Token& rbrace) override;
-  void open_block(const Token& lbrace) override;
-  void close_block(const Token& rbrace) override;
+  void enter_function_name(const Token& name, bool is_static, bool is_definition);
+  void begin_parameter_list(ListOwner owner, const Token& lparen);
+  void parameter_any(const Token& any);
+  void parameter_ellipsis(const Token& ellipsis);
+  void end_parameter_list(ListOwner owner, const Token& rparen);
+  void begin_return_list(ListOwner owner, const Token& first);
+  void end_return_list(ListOwner owner, const Token& last);
+  void finish_function(const Token& name, bool is_definition);
+  void open_function_body(const Token& lbrace, const FunctionLabels& labels);
+  void close_function_body(const Token& rbrace);
+  void open_block(const Token& lbrace);
+  void close_block(const Token& rbrace);
 
-  void begin_initializer(const Token& equal) override;
-  void initializer_open_brace(const Token& t) override;
-  void initializer_close_brace(const Token& t) override;
-  void initializer_identifier(const Token& name, const Token* sign) override;
-  void initializer_constant(const Token& first) override;
+  void begin_initializer(const Token& equal);
+  void initializer_open_brace(const Token& t);
+  void initializer_close_brace(const Token& t);
+  void initializer_identifier(const Token& name, const Token* sign);
+  void initializer_constant(const Token& first);
 
   // A type name of a cast or sizeof: its specifiers are checked like a
-  // declaration's, and the type is kept in `type_name_` for the translation.
-  void begin_type_name(const Token& first) override;
-  void end_type_name(const Token& last) override;
+  // declaration's. Type names nest ((unsigned)((int)a)): each waits on a stack
+  // until its cast or sizeof takes it.
+  void begin_type_name(const Token& first);
+  void end_type_name(const Token& last);
+  TypeName pop_type_name();
+  // The folded constant on top of the constant stack (1 when none stands there).
+  Folded pop_constant();
 
-  void const_literal(const Token& t) override;
-  void const_unary(const Token& op) override;
-  void const_binary(const Token& op) override;
-  void const_error_operand(const Token& at) override;
+  void const_literal(const Token& t);
+  void const_unary(const Token& op);
+  void const_binary(const Token& op);
+  void const_error_operand(const Token& at);
 
- protected:
+ private:
   // One declaration being read; nested ones (members, parameters, fun types)
   // stack above their container.
   struct DeclState {
@@ -104,7 +118,6 @@ class Declarations : public Actions {
   void error(int line, int sub, int bit, const std::string& text);
   // The checks of a complete declarator, in their fixed order.
   void check_declarator(const Token* name, bool initialized);
-  Folded pop_constant();
   DeclState& decl() {
     if (decls_.empty()) decls_.push_back(DeclState{DeclContext::Block});  // specifiers out of place
     return decls_.back();
@@ -126,11 +139,7 @@ class Declarations : public Actions {
   std::vector<DeclState> decls_;
   std::vector<FunctionState> functions_;
   std::vector<Folded> constants_;
-  struct TypeName {
-    int type_bits = 0;
-    int type_sym = 0;
-    bool bad = false;
-  } type_name_;
+  std::vector<TypeName> type_names_;
   // The items of the initializer being read, and what the constant
   // expression of the current item was made of.
   std::vector<InitItem> init_items_;
@@ -142,7 +151,6 @@ class Declarations : public Actions {
   int last_char_value_ = 0;
   int last_string_length_ = 0;
   std::vector<int> tags_;          // structures and enumerations whose bodies are open
-  int max_dims_ = 0;
   bool declared_anything_ = false;
   int function_ = 0;               // the function definition being compiled
 };

@@ -6,26 +6,9 @@
 
 namespace ycc {
 
-std::string Emitter::generated(const char* word, int number) const {
-  return number >= 1 ? strf("%s%s_%s%d", prefix_.c_str(), prefix_.c_str(), word, number)
-                     : strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);
-}
-
 int Emitter::body_end(int sub) const {
   int end = symbols_[sub].body_end;
   return end > sub && end <= symbols_.count() ? end : symbols_.count();
-}
-
-std::string Emitter::companion_name(int sub) const {
-  return prefix_ + "_" + symbols_[sub].name;
-}
-
-std::string Emitter::meta_type(int dims) const { return strf("%s%dD_meta", prefix_.c_str(), dims); }
-
-std::string Emitter::tag_name(int sub) const {
-  const Symbol& s = symbols_[sub];
-  if (s.anonymous()) return strf("%s%d_tag", prefix_.c_str(), s.serial);
-  return s.name;
 }
 
 std::string Emitter::function_name(int sub) const {
@@ -60,7 +43,7 @@ std::string Emitter::parameter(int sub, bool with_name) const {
   std::string name = with_name && !s.anonymous() ? s.name : "";
   auto join = [&](const std::string& type) { return name.empty() ? type : type + " " + name; };
   if (s.role[0] == 'a') return join("void *");
-  if (s.dim_count() > 0) return "struct " + meta_type(s.dim_count()) + " *" + name;
+  if (s.dim_count() > 0) return "struct " + names_.meta_type(s.dim_count()) + " *" + name;
   int t = symbols_.resolve_type(s.type_sym);
   if (t && symbols_[t].name_is == 's') return "struct " + tag_name(t) + " *" + name;
   if (t && symbols_[t].name_is == 'n') return fun_pointer(t, name);
@@ -74,7 +57,7 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
   if (s.storage & STORAGE_STATIC) t += "static ";
   if (is_extern) t += "extern ";
   if (s.is_var == 'y') {
-    t += "struct " + meta_type(s.dim_count()) + " " + s.name;
+    t += "struct " + names_.meta_type(s.dim_count()) + " " + s.name;
     if (!is_extern && !member) t += " = {NULL}";
     return t + ";";
   }
@@ -97,7 +80,7 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
   std::string t;
   if (is_static) t += "static ";
   if (is_extern) t += "extern ";
-  t += strf("struct %s %s_%s", meta_type(s.dim_count()).c_str(), prefix_.c_str(), s.name.c_str());
+  t += strf("struct %s %s_%s", names_.meta_type(s.dim_count()).c_str(), names_.prefix().c_str(), s.name.c_str());
   if (!is_extern && !member) {
     t += local && !is_static ? std::string(" = {NULL") : " = {(void *)" + s.name;
     if (s.dim_count() == 1) t += strf(",%d", initial_occurs);
@@ -162,9 +145,9 @@ void Emitter::emit_enum(int sub) {
 }
 
 void Emitter::emit_tag(int sub) {
-  if (static_cast<int>(emitted_.size()) <= sub) emitted_.resize(static_cast<size_t>(sub) + 1, 0);
-  if (emitted_[static_cast<size_t>(sub)]) return;
-  emitted_[static_cast<size_t>(sub)] = 1;
+  // The flag lives in the record: a block's numbers are reused, its records are not.
+  if (symbols_[sub].emitted) return;
+  symbols_[sub].emitted = true;
   const Symbol& s = symbols_[sub];
   if (s.error_flags || s.complete == 'n') return;
   // Tags declared inside a structure's body stand before it in C.
@@ -218,9 +201,9 @@ void Emitter::local_declaration(int sub, bool nested) {
   std::string companion = fixed ? companion_text(sub, false, true, s.initial_occurs) : "";
   std::string init;
   if (fixed && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
-    init = strf("\n%s_%s.ptr = %s;", prefix_.c_str(), s.name.c_str(), s.name.c_str());
+    init = strf("\n%s_%s.ptr = %s;", names_.prefix().c_str(), s.name.c_str(), s.name.c_str());
   if (s.is_var == 'n' && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
-    walk_varspaces(sub, s.name, companion_name(sub), false, init, 0);
+    walk_varspaces(sub, s.name, companion_name(sub), false, init);
   if (!nested) {
     ws_.wd_locals += "\n" + decl;
     if (fixed) ws_.wd_locals += "\n" + companion;
@@ -237,7 +220,7 @@ void Emitter::function_heading(int f, bool definition) {
   const Symbol& fs = symbols_[f];
   std::string h;
   if (fs.storage & STORAGE_STATIC) h += "static ";
-  h += "void " + function_name(f) + "(void *" + generated("return_ptr") + "[]";
+  h += "void " + function_name(f) + "(void *" + names_.generated("return_ptr") + "[]";
   std::vector<int> params, returns;
   for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
     if (symbols_[p].p_or_r == 'p') params.push_back(p);
@@ -260,28 +243,28 @@ void Emitter::function_heading(int f, bool definition) {
   ws_.note_emitted();
   ws_.start_function();
   walk_counters_ = 0;
-  std::string ret = generated("return_ptr");
+  std::string ret = names_.generated("return_ptr");
   for (size_t i = 0; i < returns.size(); ++i) {
     const Symbol& r = symbols_[returns[i]];
     int t = symbols_.resolve_type(r.type_sym);
     bool is_struct = t && symbols_[t].name_is == 's';
     if (r.dim_count() > 0 || is_struct) {
-      std::string type = r.dim_count() > 0 ? meta_type(r.dim_count()) : tag_name(t);
+      std::string type = r.dim_count() > 0 ? names_.meta_type(r.dim_count()) : tag_name(t);
       ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), r.name.c_str(),
                             type.c_str(), ret.c_str(), static_cast<int>(i + 1));
       if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", r.name.c_str());
-      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ")", "", false, ws_.wd_init_code, 0);
+      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ")", "", false, ws_.wd_init_code);
       ws_.note_dimensions(r.dim_count());
     } else {
       ws_.wd_locals += "\n" + variable_text(returns[i], false, true);
     }
   }
-  ws_.wd_locals += strf("\nint %s = 0;", generated("exception").c_str());
+  ws_.wd_locals += strf("\nint %s = 0;", names_.generated("exception").c_str());
 }
 
 void Emitter::function_closing(int f) {
-  std::string ret = generated("return_ptr");
-  ws_.put_text('n', strf("\n\n%s: ;\n", generated("finish").c_str()));
+  std::string ret = names_.generated("return_ptr");
+  ws_.put_text('n', strf("\n\n%s: ;\n", names_.generated("finish").c_str()));
   int index = 0;
   for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
     const Symbol& r = symbols_[p];
@@ -298,12 +281,12 @@ void Emitter::function_closing(int f) {
                              r.name.c_str()));
   }
   free_block_varspaces(f + 1);
-  ws_.put_text('n', strf("\n*((int *)(%s[0])) = %s;", ret.c_str(), generated("exception").c_str()));
+  ws_.put_text('n', strf("\n*((int *)(%s[0])) = %s;", ret.c_str(), names_.generated("exception").c_str()));
   ws_.put_text('n', "\n}\n");
 }
 
 std::string Emitter::loop_counter(int depth) {
-  std::string name = generated("walk", depth + 1);
+  std::string name = names_.generated("walk", depth + 1);
   if (depth + 1 > walk_counters_) {
     walk_counters_ = depth + 1;
     ws_.wd_locals += "\nunsigned " + name + ";";
@@ -311,62 +294,56 @@ std::string Emitter::loop_counter(int depth) {
   return name;
 }
 
+namespace {
+
+// Initialisation of fresh contained varspaces, or their release at block end.
+class VarspaceWalk : public SpaceWalker::Visitor {
+ public:
+  VarspaceWalk(const SymbolTable& symbols, bool free, std::function<std::string(int)> counter,
+               std::string& out)
+      : symbols_(symbols), free_(free), counter_(std::move(counter)), out_(out) {}
+
+  // A fresh varspace has no elements yet.
+  bool visit_elements(const SpaceWalker::Part& p) override { return free_ || symbols_[p.sym].is_var != 'y'; }
+  std::string loop_bound(const SpaceWalker::Part& p, int k) override {
+    const Symbol& s = symbols_[p.sym];
+    // A member's companion record is not set up with the structure: its sizes are the declared ones.
+    if (p.record.empty()) return strf("%d", s.dims[static_cast<size_t>(k - 1)].size);
+    if (s.dim_count() == 1 && free_) return p.record + ".occurs";
+    return strf("%s.limit%d", p.record.c_str(), k);
+  }
+  std::string loop_counter(int depth) override { return counter_(depth); }
+  void varspace(const SpaceWalker::Part& p) override {
+    std::string indent = walk_indent(p.depth);
+    const char* in = indent.c_str();
+    const char* path = p.object.c_str();
+    if (free_) {
+      out_ += strf("\n%sif(%s.limit1 > 0) {", in, path);
+      out_ += strf("\n%sfree(%s.ptr);", in, path);
+      out_ += strf("\n%s;}", in);
+      return;
+    }
+    out_ += strf("\n%s%s.ptr = %s;", in, path, "NULL");
+    int dims = symbols_[p.sym].dim_count();
+    if (dims == 1) out_ += strf("\n%s%s.occurs = 0;", in, path);
+    for (int k = 1; k <= dims; ++k) out_ += strf("\n%s%s.limit%d = 0;", in, path, k);
+  }
+
+ private:
+  const SymbolTable& symbols_;
+  bool free_;
+  std::function<std::string(int)> counter_;
+  std::string& out_;
+};
+
+}  // namespace
+
 // `object` designates the C object of `sub` (a variable, member or element);
 // `meta` its meta record ("" for a plain structure).
 void Emitter::walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
-                             std::string& out, int depth) {
-  const Symbol& s = symbols_[sub];
-  std::string indent(static_cast<size_t>(depth) * 3, ' ');
-  int t = symbols_.resolve_type(s.type_sym);
-  bool nests = t && symbols_[t].name_is == 's' && !symbols_[t].vf.empty();
-  std::string path = object + ".";
-  if (s.dim_count() > 0 && nests) {
-    // A space of structures that nest spaces: every element in turn.
-    std::string index, element;
-    int n = s.dim_count();
-    for (int k = 1; k <= n; ++k) {
-      std::string c = loop_counter(depth + k - 1);
-      // A member's companion record is not set up with the structure: its sizes are the declared ones.
-      std::string bound = meta.empty() ? strf("%d", s.dims[static_cast<size_t>(k - 1)].size)
-                          : n == 1 && free ? meta + ".occurs"
-                                           : strf("%s.limit%d", meta.c_str(), k);
-      if (s.is_var == 'y' && !free) break;  // a fresh varspace has no elements yet
-      out += strf("\n%sfor(%s = %s; %s < %s; ++%s) {", std::string(static_cast<size_t>(depth + k - 1) * 3, ' ').c_str(),
-                  c.c_str(), "0", c.c_str(), bound.c_str(), c.c_str());
-      index = k == 1 ? c : strf("(%s) * %s.limit%d + %s", index.c_str(), meta.c_str(), k, c.c_str());
-      element += "[" + c + "]";
-    }
-    if (!(s.is_var == 'y' && !free)) {
-      std::string elem = s.is_var == 'y'
-                             ? strf("((struct %s *)(%s.ptr))[%s]", tag_name(t).c_str(), meta.c_str(), index.c_str())
-                             : object + element;
-      for (int m : symbols_[t].vf) walk_member(m, elem, free, out, depth + n);
-      for (int k = n; k >= 1; --k)
-        out += strf("\n%s}", std::string(static_cast<size_t>(depth + k - 1) * 3, ' ').c_str());
-    }
-  }
-  if (s.is_var == 'y') {
-    if (free) {
-      out += strf("\n%sif(%slimit1 > 0) {", indent.c_str(), path.c_str());
-      out += strf("\n%sfree(%sptr);", indent.c_str(), path.c_str());
-      out += strf("\n%s;}", indent.c_str());
-    } else {
-      out += strf("\n%s%sptr = %s;", indent.c_str(), path.c_str(), "NULL");
-      if (s.dim_count() == 1) out += strf("\n%s%soccurs = 0;", indent.c_str(), path.c_str());
-      for (int k = 1; k <= s.dim_count(); ++k)
-        out += strf("\n%s%slimit%d = 0;", indent.c_str(), path.c_str(), k);
-    }
-    return;
-  }
-  if (s.dim_count() == 0 && nests)
-    for (int m : symbols_[t].vf) walk_member(m, object, free, out, depth);
-}
-
-void Emitter::walk_member(int m, const std::string& container, bool free, std::string& out, int depth) {
-  const Symbol& ms = symbols_[m];
-  std::string object = container + "." + ms.name;
-  std::string meta = ms.is_var == 'y' ? object : "";
-  walk_varspaces(m, object, meta, free, out, depth);
+                             std::string& out) {
+  VarspaceWalk visit(symbols_, free, [this](int depth) { return loop_counter(depth); }, out);
+  walker_.walk(sub, object, meta, 0, visit, out);
 }
 
 void Emitter::free_block_varspaces(int first) {
@@ -375,7 +352,7 @@ void Emitter::free_block_varspaces(int first) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
     if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN)) continue;
-    walk_varspaces(sub, s.name, s.is_var == 'y' ? s.name : companion_name(sub), true, out, 0);
+    walk_varspaces(sub, s.name, s.is_var == 'y' ? s.name : companion_name(sub), true, out);
   }
   if (!out.empty()) ws_.put_text('n', out);
 }

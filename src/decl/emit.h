@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "common/names.h"
+#include "decl/space_walk.h"
 #include "decl/symbol_table.h"
 #include "output/workspace.h"
 
@@ -13,14 +15,11 @@ namespace ycc {
 
 class Emitter {
  public:
-  Emitter(SymbolTable& symbols, Workspace& ws, const std::string& prefix)
-      : symbols_(symbols), ws_(ws), prefix_(prefix) {}
+  Emitter(SymbolTable& symbols, Workspace& ws, const Names& names)
+      : symbols_(symbols), ws_(ws), names_(names), walker_(symbols, names) {}
 
-  // A generated name: the prefix twice, "_", the word, and the number when above 0.
-  std::string generated(const char* word, int number = 0) const;
-  std::string meta_type(int dims) const;
   // The C name of a structure, enumeration or fun tag, anonymous ones included.
-  std::string tag_name(int sub) const;
+  std::string tag_name(int sub) const { return c_tag_name(symbols_[sub], names_); }
   // The C name of a function: library functions and main carry "_yc__".
   std::string function_name(int sub) const;
   // The C type words of a variable's element type ("unsigned int", "struct s").
@@ -52,19 +51,19 @@ class Emitter {
   void out_dent();
   void emit_struct(int sub);
   void emit_enum(int sub);
+  // Initialises (or, at block end, frees) the varspaces nested in `sub`.
   void walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
-                      std::string& out, int depth);
-  void walk_member(int member, const std::string& container, bool free, std::string& out, int depth);
+                      std::string& out);
   std::string loop_counter(int depth);
-  std::string companion_name(int sub) const;
+  std::string companion_name(int sub) const { return names_.companion(symbols_[sub].name); }
   // Where the members of a tag end.
   int body_end(int sub) const;
   bool is_space(int sub) const { return symbols_[sub].dim_count() > 0; }
 
   SymbolTable& symbols_;
   Workspace& ws_;
-  std::string prefix_;
-  std::vector<char> emitted_;  // tags already written, by symbol number
+  const Names& names_;
+  SpaceWalker walker_;
   int walk_counters_ = 0;      // loop counters declared in the current function
   bool into_locals_ = false;
   int locals_indent_ = 0;

@@ -57,7 +57,16 @@ const char* parameter_mismatch(const SymbolTable& symbols, int a, int b, bool wi
   return nullptr;
 }
 
+int function_signature(const SymbolTable& symbols, int f) {
+  if (symbols[f].name_is != 'f') return f;
+  int prototype = symbols.find_other('o', symbols[f].name, f);
+  return prototype && symbols[prototype].name_is == 'd' ? prototype : f;
+}
+
 std::string fun_type_mismatch(const SymbolTable& symbols, int fa, int fb) {
+  fa = function_signature(symbols, fa);
+  fb = function_signature(symbols, fb);
+  if (fa == fb) return "";
   const Symbol& a = symbols[fa];
   const Symbol& b = symbols[fb];
   if (a.ellipsis != b.ellipsis) return "mismatch ellipsis use";

@@ -20,7 +20,13 @@ FunctionLists function_lists(const SymbolTable& symbols, int f);
 // information", "[size] information", "resize information"), or nullptr.
 const char* parameter_mismatch(const SymbolTable& symbols, int a, int b, bool with_resize);
 
-// Why two fun types differ ("mismatch ellipsis use", ...), or "" when equivalent.
+// The entry whose lists give a function's type: a definition's lists close
+// with its body, so its prototype stands for it.
+int function_signature(const SymbolTable& symbols, int f);
+
+// Why two function types (fun types, functions or prototypes) differ
+// ("mismatch ellipsis use", ...), or "" when they are the same: the one rule
+// for assigning, comparing, initializing and calling through pointers.
 std::string fun_type_mismatch(const SymbolTable& symbols, int fa, int fb);
 
 // The messages of a definition compared with its prototype, in order.

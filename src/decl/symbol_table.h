@@ -11,6 +11,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "common/names.h"
+
 namespace ycc {
 
 // Error bits: declaration errors already reported for an entry.
@@ -55,6 +57,8 @@ struct Symbol {
   char vf_flags[3] = {'n', 'n', 'n'};  // has varspace, has fixed-space, has 1-D fixed-space
   char contains_fun_ptr = 'n';
   char complete = 'y';      // 'n' for a tag named ahead of its body
+  bool emitted = false;     // a tag whose C definition has been written
+  int enum_count = 0;       // an enumeration's constants
   int ref_count = 0;
   int resize_count = 0;
   int body_end = 0;         // a tag's members and a fun type's lists stand below this number
@@ -67,6 +71,11 @@ struct Symbol {
   // The name for messages.
   std::string shown_name() const { return anonymous() ? "anonymous" : name; }
 };
+
+// The C name of a structure, enumeration or fun tag, anonymous ones included.
+inline std::string c_tag_name(const Symbol& s, const Names& names) {
+  return s.anonymous() ? names.anonymous_tag(s.serial) : s.name;
+}
 
 class SymbolTable {
  public:

@@ -6,6 +6,8 @@
 // In every mode the longest match wins, ties going to the earlier rule.
 #include "front/lexer.h"
 
+#include <algorithm>
+
 #include <climits>
 #include <cstdint>
 #include <new>
@@ -15,10 +17,29 @@
 
 namespace ycc {
 
+void TokenBuffer::index_extern_ranges() {
+  std::vector<std::pair<int, int>> v;
+  for (size_t i = 0; i + 1 < extern_ranges.size(); ++i) {
+    long long lo = extern_ranges[i].begin, hi = extern_ranges[i + 1].end;
+    if (lo + 1 < hi) v.emplace_back(static_cast<int>(lo), static_cast<int>(hi));
+  }
+  std::sort(v.begin(), v.end());
+  extern_intervals_.clear();
+  for (const auto& r : v) {
+    // (a, b) and (c, d) with c < b hold together every line of (a, max(b, d)).
+    if (!extern_intervals_.empty() && r.first < extern_intervals_.back().second)
+      extern_intervals_.back().second = std::max(extern_intervals_.back().second, r.second);
+    else
+      extern_intervals_.push_back(r);
+  }
+}
+
 bool TokenBuffer::in_extern_range(int line) const {
-  for (size_t i = 0; i + 1 < extern_ranges.size(); ++i)
-    if (extern_ranges[i].begin < line && line < extern_ranges[i + 1].end) return true;
-  return false;
+  // The last interval that begins below the line is the only one that can hold it.
+  auto after = std::upper_bound(extern_intervals_.begin(), extern_intervals_.end(), line,
+                                [](int l, const std::pair<int, int>& r) { return l <= r.first; });
+  if (after == extern_intervals_.begin()) return false;
+  return line < std::prev(after)->second;
 }
 
 namespace {
@@ -338,6 +359,7 @@ TokenBuffer Lexer::run() {
     out.tokens[i].text = std::string_view(out.text_store.data() + offsets_[i], len);
   }
   out.extern_ranges = std::move(ranges_);
+  out.index_extern_ranges();
   return out;
 }
 

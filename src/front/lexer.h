@@ -34,8 +34,13 @@ struct TokenBuffer {
   TokenBuffer(const TokenBuffer&) = delete;
   TokenBuffer& operator=(const TokenBuffer&) = delete;
 
-  // Whether a line code lies in an extern line range.
+  // Whether a line code lies in an extern line range: a binary search over
+  // the ranges as merged open intervals, which `index_extern_ranges` builds.
   bool in_extern_range(int line) const;
+  void index_extern_ranges();
+
+ private:
+  std::vector<std::pair<int, int>> extern_intervals_;  // (begin, end), lines strictly between
 };
 
 // The token buffers could not grow: `report` is the complete message

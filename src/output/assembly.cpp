@@ -78,7 +78,7 @@ void Workspace::assemble(const std::string& output_name) {
     file_ = out;
     put_text('n', header_text);
     for (int d = 1; d <= max_dimensions_; ++d) {
-      put_text('n', strf("\nstruct %s {", strf("%s%dD_meta", prefix_.c_str(), d).c_str()));
+      put_text('n', strf("\nstruct %s {", names_.meta_type(d).c_str()));
       indent_in();
       put_text('y', "void *ptr;");
       if (d == 1) put_text('y', strf("%s occurs;", "unsigned"));

@@ -21,32 +21,13 @@ const char source_name[] = "yc";
 Workspace::Workspace(const Options& options, Diagnostics& diag) : options_(options), diag_(diag) {
   int code_workspace_halfmegs = options.halfmegs;
   YCC_CHECK(code_workspace_halfmegs > 0, source_name);
-  // The sizes only reserve room: every text grows past them when needed.
-  size_t n = static_cast<size_t>(code_workspace_halfmegs) * 500000;
-  wtext.reserve(n);
-  wtext2.reserve(n);
-  globals.reserve(n / 10);
-  wd_locals.reserve(n / 2);
-  resize_locals.reserve(n / 10);
-  wd_init_code.reserve(n / 10);
-  function_exit.reserve(n / 10);
-  deferred.reserve(n);
-  function_extra.reserve(n / 10);
-  scratch[0].reserve(n / 20);
-  scratch[1].reserve(n / 20);
-  scratch[2].reserve(n / 10);
-  scratch[3].reserve(n / 40);
-  code.reserve(fragment_growth);
   merge_.reserve(merge_growth);
 }
 
 void Workspace::reset() {
-  for (std::string* t : {&wtext, &wtext2, &globals, &wd_locals, &resize_locals, &wd_init_code,
-                         &function_exit, &deferred, &function_extra, &scratch[0], &scratch[1],
-                         &scratch[2], &scratch[3]})
+  for (std::string* t : {&globals, &wd_locals, &resize_locals, &wd_init_code, &function_exit, &deferred})
     t->clear();
   to_deferred = to_function_exit = to_fragment = false;
-  code.clear();
   merge_.clear();
   blocks_.clear();
   work_file_ = nullptr;
@@ -55,7 +36,6 @@ void Workspace::reset() {
   indent_ = column_ = 0;
   quote_ = 0;
   backslashes_ = 0;
-  wtext_has_user_ = 'n';
   output_started_ = 'n';
   globals_slot_ = curr_wd_locals_ = curr_wd_init_code_ = resize_slot_ = -1;
   emitted_ = 0;
@@ -78,13 +58,9 @@ void Workspace::put_text(char newline_bgn, std::string_view text) {
   } else if (to_function_exit) {
     function_exit += prefix;
     function_exit += text;
-  } else if (to_fragment && !code.empty()) {
-    int last = code_cnt() - 1;
-    bool taken_here = !code.back().in_work_text;
-    if (taken_here) take_work_text(last);
-    wtext += prefix;
-    wtext += text;
-    if (taken_here) release_work_text(last);
+  } else if (std::string* fragment = to_fragment && fragment_sink ? fragment_sink() : nullptr) {
+    *fragment += prefix;
+    *fragment += text;
   } else {
     write_file(prefix, text);
   }
@@ -125,46 +101,6 @@ void Workspace::indent_in() {
 void Workspace::indent_out() {
   indent_ -= indent_step;
   if (indent_ < 0) indent_ = 0;
-}
-
-int Workspace::new_fragment() {
-  code.emplace_back();
-  return code_cnt() - 1;
-}
-
-std::string& Workspace::fragment_text(int sub) {
-  CodeFragment& f = code.at(static_cast<size_t>(sub));
-  return f.in_work_text ? wtext : f.text;
-}
-
-void Workspace::take_work_text(int sub) {
-  if (!(wtext_has_user_ == 'n')) internal_check_failed("wtext_has_user == 'n'", source_name, __LINE__);
-  CodeFragment& f = code.at(static_cast<size_t>(sub));
-  wtext.assign(f.text);
-  std::string().swap(f.text);
-  f.in_work_text = true;
-  wtext_has_user_ = 'y';
-}
-
-void Workspace::release_work_text(int sub) {
-  bool ok = wtext_has_user_ == 'y' && sub >= 0 && sub < code_cnt() &&
-            code[static_cast<size_t>(sub)].in_work_text;
-  if (!ok)
-    internal_check_failed("wtext_has_user == 'y' && code[sub].text == wtext", source_name, __LINE__);
-  CodeFragment& f = code[static_cast<size_t>(sub)];
-  f.text.reserve(wtext.size() + 1);
-  f.text.assign(wtext);
-  f.in_work_text = false;
-  wtext_has_user_ = 'n';
-}
-
-void Workspace::truncate_fragments(int new_cnt) {
-  if (!(new_cnt >= 0 && new_cnt <= code_cnt()))
-    internal_check_failed("new_cnt >= 0 && new_cnt <= code_cnt", source_name, __LINE__);
-  while (code_cnt() > new_cnt) {
-    if (code.back().in_work_text) wtext_has_user_ = 'n';
-    code.pop_back();
-  }
 }
 
 int Workspace::new_merge_slot(const std::string* data) {

@@ -13,20 +13,11 @@
 #include <string_view>
 #include <vector>
 
+#include "common/names.h"
 #include "common/options.h"
 #include "diag/diagnostics.h"
 
 namespace ycc {
-
-// One code fragment of an expression or statement. Its text lives either in
-// `text` or, while taken, in the workspace's work text. The other fields
-// belong to the translation of statements and expressions.
-struct CodeFragment {
-  std::string text;
-  std::string value;
-  std::string extra;
-  bool in_work_text = false;
-};
 
 // A merge slot: its text is one of the workspace's slot buffers while that is
 // still being filled, later a heap copy of its own.
@@ -44,7 +35,7 @@ class Workspace {
   static constexpr int fragment_growth = 20;
   static constexpr int merge_growth = 1000;
 
-  // Set up once per run from /H; buffer sizes are reserved capacity only.
+  // Set up once per run; /H is checked but reserves nothing: texts grow as needed.
   Workspace(const Options& options, Diagnostics& diag);
 
   // Per file: the anonymous temporary work file that put_text writes to.
@@ -52,7 +43,7 @@ class Workspace {
   // After each file: every text emptied, counts 0, flags 'n'.
   void reset();
   // The file's generated-names prefix, used in the meta record type names.
-  void set_prefix(const std::string& prefix) { prefix_ = prefix; }
+  void set_prefix(const std::string& prefix) { names_ = Names(prefix); }
 
   // Writes generated text (Algorithms of the writer): nothing once the file
   // has an error; newline_bgn 'y' starts a new line at the indentation.
@@ -62,20 +53,14 @@ class Workspace {
   int indentation() const { return indent_; }
   int column() const { return column_; }
 
-  // Destinations of put_text, tried in this order before the work file.
+  // Destinations of put_text, tried in this order before the work file:
+  // the deferred-functions text, the function-exit text, and, inside a
+  // function body, the code of the statement being translated (what
+  // `fragment_sink` gives; null there means the work file).
   bool to_deferred = false;
   bool to_function_exit = false;
   bool to_fragment = false;
-
-  // Code fragments.
-  std::vector<CodeFragment> code;
-  int code_cnt() const { return static_cast<int>(code.size()); }
-  int new_fragment();
-  std::string& fragment_text(int sub);
-  void take_work_text(int sub);
-  void release_work_text(int sub);
-  void truncate_fragments(int new_cnt);
-  char wtext_has_user() const { return wtext_has_user_; }
+  std::function<std::string*()> fragment_sink;
 
   // Merge slots.
   int new_merge_slot(const std::string* data);
@@ -115,16 +100,12 @@ class Workspace {
   void assemble(const std::string& output_name);
 
   // The texts; slot texts are read through the merge table.
-  std::string wtext;
-  std::string wtext2;
   std::string globals;
   std::string wd_locals;
   std::string resize_locals;
   std::string wd_init_code;
   std::string function_exit;
   std::string deferred;
-  std::string function_extra;
-  std::string scratch[4];
 
   const Options& options() const { return options_; }
   Diagnostics& diag() { return diag_; }
@@ -146,12 +127,11 @@ class Workspace {
   std::FILE* work_file_ = nullptr;
   std::FILE* file_ = nullptr;  // where put_text writes: work file or, briefly, output
   std::string output_name_;    // set while the output file is written
-  std::string prefix_ = "zz";
+  Names names_{"zz"};
   int indent_ = 0;
   int column_ = 0;
   char quote_ = 0;  // open quote character, 0 outside literals
   int backslashes_ = 0;
-  char wtext_has_user_ = 'n';
   std::vector<MergeSlot> merge_;
   char output_started_ = 'n';
   int globals_slot_ = -1;

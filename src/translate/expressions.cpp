@@ -37,7 +37,7 @@ const char not_yet[] =
 // ---- Primaries ------------------------------------------------------------------------
 
 void Translator::constant(const Token& t) {
-  Entry& e = push_entry(t.line);
+  Operand& e = push_operand(t.line);
   e.literal = true;
   std::string text(t.text);
   switch (t.tok) {
@@ -114,13 +114,13 @@ void Translator::constant(const Token& t) {
 
 void Translator::parenthesized(const Token& lparen) {
   ensure_operands(1, lparen.line);
-  Entry& e = top();
+  Operand& e = top();
   if (e.jump_form() || e.value.empty()) return;
   e.value = "(" + e.value + ")";
 }
 
 void Translator::identifier(const Token& name) {
-  Entry& e = push_entry(name.line);
+  Operand& e = push_operand(name.line);
   std::string n(name.text);
   int sub = symbols_.find_other('o', n, 0);
   if (!sub) {
@@ -135,7 +135,7 @@ void Translator::identifier(const Token& name) {
 void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
   if (kind == SubscriptKind::Expression) {
     ensure_operands(2, lbracket.line);
-    pop_entry(nullptr);
+    pop_operand();
   }
   ensure_operands(1, lbracket.line);
   if (!top().reported) report(top(), strf(not_yet, "[]"));
@@ -159,14 +159,14 @@ void Translator::limit(const Token& t) {
 void Translator::end_space_reference(const Token&) {}
 
 void Translator::added_length(const Token& t) {
-  Entry& e = push_entry(t.line);
+  Operand& e = push_operand(t.line);
   e.empty = true;
   report(e, strf(not_yet, "added_length"));
 }
 
 void Translator::free_reference(const Token& keyword) {
   ensure_operands(1, keyword.line);
-  Entry& e = top();
+  Operand& e = top();
   e.empty = true;
   if (!e.reported) report(e, strf(not_yet, "free"));
 }
@@ -174,49 +174,36 @@ void Translator::free_reference(const Token& keyword) {
 void Translator::call(const CallInfo& info) {
   int operands = info.return_count + (info.through_pointer ? 1 : 0) + info.argument_count;
   ensure_operands(operands, info.callee->line);
-  std::string text;
-  for (int k = 0; k < operands; ++k) {
-    std::string part;
-    pop_entry(&part);
-    text.insert(0, part);
-  }
-  Entry& e = push_entry(info.callee->line);
-  code(top_index()) = std::move(text);
+  // The operands' code in their order, in one pass.
+  Code text;
+  int first = top_index() - operands + 1;
+  for (int k = first; k <= top_index(); ++k) text += std::move(code(k));
+  for (int k = 0; k < operands; ++k) pop_operand();
+  Operand& e = push_operand(info.callee->line);
+  e.code = std::move(text);
   e.empty = true;
   report(e, strf(not_yet, info.through_pointer ? "(*x)" : std::string(info.callee->text).c_str()));
 }
 
 void Translator::syntax_error_operand(const Token& at) {
-  Entry& e = push_entry(at.line);
+  Operand& e = push_operand(at.line);
   e.reported = true;
   e.empty = true;
 }
 
 // ---- Type names, casts and sizeof --------------------------------------------------------
 
-// The type name of a cast or sizeof, with typedef names followed to their type.
-void Translator::resolve_type_name() {
-  int bits = type_name_.type_bits;
-  int t = type_name_.type_sym;
-  for (int guard = 0; t && symbols_[t].name_is == 't' && guard < 1000; ++guard) {
-    bits |= symbols_[t].type_bits;
-    t = symbols_[t].type_sym;
-  }
-  type_name_bits_ = type_name_.bad ? -1 : bits;
-  type_name_sym_ = t;
-}
-
 void Translator::cast(const Token& lparen) {
   ensure_operands(1, lparen.line);
   int i = top_index();
   to_value(i);
-  Entry& e = entry(i);
-  resolve_type_name();
-  if (type_name_bits_ < 0) {
+  Operand& e = operand(i);
+  TypeName type = decl_.pop_type_name();
+  if (type.bad) {
     e.reported = true;
     return;
   }
-  if (type_name_bits_ == 0 || type_name_sym_ != 0) {
+  if (type.type_bits == 0 || type.type_sym != 0) {
     if (!e.reported) report(e, "invalid cast: to cast an expression, the cast must have an arithmetic type");
     return;
   }
@@ -227,22 +214,22 @@ void Translator::cast(const Token& lparen) {
       return;
     }
   }
-  e.value = "((" + type_words(type_name_bits_) + ")(" + e.value + "))";
-  e.type_bits = type_name_bits_;
+  e.value = "((" + type_words(type.type_bits) + ")(" + e.value + "))";
+  e.type_bits = type.type_bits;
   e.kind = 0;
   e.type_sym = 0;
   e.lvalue = e.literal = e.emit = false;
 }
 
 void Translator::sizeof_type(const Token& keyword) {
-  Entry& e = push_entry(keyword.line);
+  Operand& e = push_operand(keyword.line);
   e.type_bits = 128;
-  resolve_type_name();
-  if (type_name_bits_ < 0) {
+  TypeName type = decl_.pop_type_name();
+  if (type.bad) {
     e.reported = true;
     return;
   }
-  int t = type_name_sym_;
+  int t = type.type_sym;
   if (t && symbols_[t].name_is == 's')
     e.value = strf("sizeof(struct %s)", symbols_[t].name.c_str());
   else if (t && symbols_[t].name_is == 'e')
@@ -250,12 +237,12 @@ void Translator::sizeof_type(const Token& keyword) {
   else if (t)
     e.value = "sizeof(void(*)())";
   else
-    e.value = "sizeof(" + type_words(type_name_bits_) + ")";
+    e.value = "sizeof(" + type_words(type.type_bits) + ")";
 }
 
 void Translator::sizeof_expr(const Token& keyword) {
   ensure_operands(1, keyword.line);
-  Entry& e = top();
+  Operand& e = top();
   if (!e.reported) report(e, strf(not_yet, "sizeof"));
   e.empty = true;
 }
@@ -266,12 +253,12 @@ void Translator::comma(const Token& op) {
   ensure_operands(2, op.line);
   int left = top_index() - 1;
   finish_expression(left, true);
-  std::string right_code;
-  Entry right = pop_entry(&right_code);
-  code(left) += right_code;
-  int line = entry(left).line;
-  entry(left) = right;
-  entry(left).line = line;
+  Operand right = pop_operand();
+  Code joined = std::move(code(left));
+  joined += std::move(right.code);
+  right.code = std::move(joined);
+  right.line = operand(left).line;
+  operand(left) = std::move(right);
 }
 
 void Translator::unary_operator(const Token& op, Fix fix) {
@@ -279,7 +266,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
   int i = top_index();
   std::string o = op_text(op);
   if (op.tok == T_NOT) {
-    Entry& e = entry(i);
+    Operand& e = operand(i);
     if (!test_class(e, 2, true, "'%s' : the operand %s", o)) {
       e.reported = true;
       return;
@@ -289,7 +276,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       resolve_labels(code(i));
       int new_true = e.false_label ? next_label() : 0;
       int new_false = e.true_label ? next_label() : 0;
-      std::string& text = code(i);
+      Code& text = code(i);
       if (e.false_label) rename_label(text, false_name(e.false_label), true_name(new_true));
       if (e.true_label) rename_label(text, true_name(e.true_label), false_name(new_false));
       e.false_label = new_false;
@@ -304,7 +291,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
     return;
   }
   to_value(i);
-  Entry& e = entry(i);
+  Operand& e = operand(i);
   bool increment = op.tok == T_PLUSPLUS || op.tok == T_MINUSMINUS;
   if (increment) {
     if (!test_class(e, 5, true, "'%s' : the operand %s", o)) {
@@ -380,8 +367,8 @@ void Translator::binary_operator(const Token& op) {
     default:
       break;
   }
-  Entry& l = entry(left);
-  Entry& r = entry(right);
+  Operand& l = operand(left);
+  Operand& r = operand(right);
   bool was_reported = l.reported || r.reported;
   bool ok_left = test_class(l, cls, true, "'%s' : the left operand %s", o);
   bool ok_right = test_class(r, cls, true, "'%s' : the right operand %s", o);
@@ -416,10 +403,8 @@ void Translator::binary_operator(const Token& op) {
   bool literal = l.literal && r.literal;
   // Appended in place: a long chain of operators stays linear.
   l.value.append(" ").append(o).append(" ").append(r.value);
-  std::string right_code;
-  pop_entry(&right_code);
-  code(left) += right_code;
-  Entry& e = entry(left);
+  code(left) += std::move(pop_operand().code);
+  Operand& e = operand(left);
   e.type_bits = bits;
   e.kind = 0;
   e.type_sym = 0;
@@ -433,19 +418,19 @@ void Translator::binary_operator(const Token& op) {
 void Translator::logical_and(const Token& op) {
   ensure_operands(2, op.line);
   int left = top_index() - 1;
-  Entry& l = entry(left);
-  Entry& r = entry(left + 1);
+  Operand& l = operand(left);
+  Operand& r = operand(left + 1);
   bool ok_left = test_class(l, 2, true, "'%s' : the left operand %s", "&&");
   bool ok_right = test_class(r, 2, true, "'%s' : the right operand %s", "&&");
   bool reported = !ok_left || !ok_right || l.reported || r.reported;
   int common = r.false_label ? r.false_label : l.false_label ? l.false_label : next_label();
   std::string f = false_name(common);
-  std::string& text = code(left);
+  Code& text = code(left);
   if (l.false_label && l.false_label != common) alias_label(l.false_label, common);
   if (l.jump_form()) {
     if (l.true_label) {
       std::string t = true_name(l.true_label);
-      if (last_goto_is_true(text))
+      if (last_goto_is_true(text.text()))
         text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
       else
         text += "\n" + t + ":";
@@ -453,17 +438,15 @@ void Translator::logical_and(const Token& op) {
   } else {
     text += strf("\nif(!(%s)) goto %s;", l.value.c_str(), f.c_str());
   }
-  Entry rv = entry(left + 1);
-  std::string right_code;
-  pop_entry(&right_code);
-  std::string& joined = code(left);
-  joined += right_code;
+  Operand rv = pop_operand();
+  Code& joined = code(left);
+  joined += std::move(rv.code);
   if (!rv.jump_form()) joined += strf("\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
-  become_jump_form(entry(left), common, rv.true_label, reported);
+  become_jump_form(operand(left), common, rv.true_label, reported);
 }
 
 // The result of && and ||: an int known only through its two labels.
-void Translator::become_jump_form(Entry& e, int false_label, int true_label, bool reported) {
+void Translator::become_jump_form(Operand& e, int false_label, int true_label, bool reported) {
   e.false_label = false_label;
   e.true_label = true_label;
   e.value.clear();
@@ -477,19 +460,19 @@ void Translator::become_jump_form(Entry& e, int false_label, int true_label, boo
 void Translator::logical_or(const Token& op) {
   ensure_operands(2, op.line);
   int left = top_index() - 1;
-  Entry& l = entry(left);
-  Entry& r = entry(left + 1);
+  Operand& l = operand(left);
+  Operand& r = operand(left + 1);
   bool ok_left = test_class(l, 2, true, "'%s' : the left operand %s", "||");
   bool ok_right = test_class(r, 2, true, "'%s' : the right operand %s", "||");
   bool reported = !ok_left || !ok_right || l.reported || r.reported;
   int common = r.true_label ? r.true_label : l.true_label ? l.true_label : next_label();
   std::string t = true_name(common);
-  std::string& text = code(left);
+  Code& text = code(left);
   if (l.true_label && l.true_label != common) alias_label(l.true_label, common);
   if (l.jump_form()) {
     if (l.false_label) {
       std::string f = false_name(l.false_label);
-      if (!last_goto_is_true(text))
+      if (!last_goto_is_true(text.text()))
         text += strf("\ngoto %s;\n%s:", t.c_str(), f.c_str());
       else
         text += "\n" + f + ":";
@@ -497,13 +480,11 @@ void Translator::logical_or(const Token& op) {
   } else {
     text += strf("\nif(%s) goto %s;", l.value.c_str(), t.c_str());
   }
-  Entry rv = entry(left + 1);
-  std::string right_code;
-  pop_entry(&right_code);
-  std::string& joined = code(left);
-  joined += right_code;
+  Operand rv = pop_operand();
+  Code& joined = code(left);
+  joined += std::move(rv.code);
   if (!rv.jump_form()) joined += strf("\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
-  become_jump_form(entry(left), rv.false_label, common, reported);
+  become_jump_form(operand(left), rv.false_label, common, reported);
 }
 
 void Translator::conditional(const Token& question, const Token& colon) {
@@ -512,15 +493,16 @@ void Translator::conditional(const Token& question, const Token& colon) {
   to_value(b);
   to_value(c);
   const char* head = "a '?' b ':' c -- ";
-  Entry& ea = entry(a);
+  Operand& ea = operand(a);
   if (!ea.reported) {
     std::string why = class_message(ea, 2, true);
     if (!why.empty()) report(ea, std::string(head) + "expression 'a' " + why);
   }
   std::string f = control_on(a);
-  std::string skip = generated_name("skip", ++skip_counter_);
-  Entry eb = entry(b), ec = entry(c);
-  bool reported = entry(a).reported || eb.reported || ec.reported;
+  std::string skip = generated("skip", ++skip_counter_);
+  const Operand& eb = operand(b);
+  const Operand& ec = operand(c);
+  bool reported = operand(a).reported || eb.reported || ec.reported;
   int line = question.line;
   auto fail = [&](const std::string& text) {
     if (!reported) diag_.error(line, std::string(head) + text);
@@ -532,7 +514,7 @@ void Translator::conditional(const Token& question, const Token& colon) {
   if (eb.casted || ec.casted) {
     fail("neither operand 'b' nor 'c' can be a casted character space");
   } else if (is_enum(eb) || is_enum(ec)) {
-    const Entry& named = is_enum(eb) ? eb : ec;
+    const Operand& named = is_enum(eb) ? eb : ec;
     kind = 'e';
     type_sym = named.type_sym;
     if (is_enum(eb) && is_enum(ec)) {
@@ -568,12 +550,14 @@ void Translator::conditional(const Token& question, const Token& colon) {
     fail("operands 'b' and 'c' have incompatible types");
   }
   std::string t = temporary(kind ? 4 : bits);
-  std::string c_code, b_code;
-  pop_entry(&c_code);
-  pop_entry(&b_code);
-  code(a) += b_code + strf("\n%s = %s;\ngoto %s;\n%s:", t.c_str(), eb.value.c_str(), skip.c_str(), f.c_str()) +
-             c_code + strf("\n%s = %s;\n%s:", t.c_str(), ec.value.c_str(), skip.c_str());
-  Entry& e = entry(a);
+  Operand oc = pop_operand();
+  Operand ob = pop_operand();
+  Code& joined = code(a);
+  joined += std::move(ob.code);
+  joined += strf("\n%s = %s;\ngoto %s;\n%s:", t.c_str(), ob.value.c_str(), skip.c_str(), f.c_str());
+  joined += std::move(oc.code);
+  joined += strf("\n%s = %s;\n%s:", t.c_str(), oc.value.c_str(), skip.c_str());
+  Operand& e = operand(a);
   e.value = t;
   e.type_bits = kind ? 0 : bits;
   e.kind = kind;
@@ -589,8 +573,8 @@ void Translator::assignment(AssignMode mode, const Token& op) {
   int left = top_index() - 1, right = top_index();
   to_value(right);
   std::string o = op_text(op);
-  Entry& l = entry(left);
-  Entry& r = entry(right);
+  Operand& l = operand(left);
+  Operand& r = operand(right);
   bool reported = l.reported || r.reported;
   auto fail = [&](const std::string& text) {
     if (!reported) diag_.error(op.line, text);
@@ -644,10 +628,8 @@ void Translator::assignment(AssignMode mode, const Token& op) {
     }
   }
   l.value.append(" ").append(o).append(" ").append(r.value);
-  std::string right_code;
-  pop_entry(&right_code);
-  code(left) += right_code;
-  Entry& e = entry(left);
+  code(left) += std::move(pop_operand().code);
+  Operand& e = operand(left);
   e.emit = true;
   e.lvalue = e.literal = false;
   e.reported = reported;

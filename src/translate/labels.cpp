@@ -15,29 +15,22 @@ bool Translator::last_goto_is_true(const std::string& text) const {
   size_t at = text.rfind("goto ");
   if (at != std::string::npos) {
     std::string_view rest = std::string_view(text).substr(at + 5);
-    if (rest.starts_with(generated_name("false"))) return false;
-    if (rest.starts_with(generated_name("true"))) return true;
+    if (rest.starts_with(generated("false"))) return false;
+    if (rest.starts_with(generated("true"))) return true;
   }
   internal_check_failed("goto scan finds a false or a true label", source_name, __LINE__);
 }
 
-void Translator::rename_label(std::string& text, const std::string& from, const std::string& to) {
+void Translator::rename_label(Code& code, const std::string& from, const std::string& to) {
   if (from == to || from.empty()) return;
-  std::string out;
-  out.reserve(text.size());
-  size_t pos = 0;
-  for (;;) {
-    size_t at = text.find(from, pos);
-    if (at == std::string::npos) break;
+  const std::string& text = code.text();
+  std::vector<Code::Edit> edits;
+  for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + from.size())) {
     size_t end = at + from.size();
-    bool whole = (at == 0 || !is_ident_char(text[at - 1])) &&
-                 (end == text.size() || !is_ident_char(text[end]));
-    out.append(text, pos, at - pos);
-    out += whole ? to : from;
-    pos = end;
+    bool whole = (at == 0 || !is_ident_char(text[at - 1])) && (end == text.size() || !is_ident_char(text[end]));
+    if (whole) edits.push_back({at, from.size(), to});
   }
-  out.append(text, pos, std::string::npos);
-  text = std::move(out);
+  code.apply(edits);
 }
 
 void Translator::alias_label(int from, int to) {
@@ -59,37 +52,31 @@ int Translator::label_representative(int n) {
   return root;
 }
 
-void Translator::resolve_labels(std::string& text) {
+void Translator::resolve_labels(Code& code) {
   if (label_alias_.empty()) return;
-  const std::string head = prefix_ + prefix_ + "_";
-  std::string out;
-  size_t pos = 0;
-  bool changed = false;
+  const std::string head = names_.prefix() + names_.prefix() + "_";
+  const std::string& text = code.text();
+  std::string_view view(text);
+  std::vector<Code::Edit> edits;
   for (size_t at = text.find(head); at != std::string::npos; at = text.find(head, at + 1)) {
     if (at > 0 && is_ident_char(text[at - 1])) continue;
     size_t word = at + head.size();
-    size_t digits = std::string_view(text).substr(word).starts_with("false") ? word + 5
-                    : std::string_view(text).substr(word).starts_with("true") ? word + 4
-                                                                             : std::string::npos;
+    size_t digits = view.substr(word).starts_with("false")  ? word + 5
+                    : view.substr(word).starts_with("true") ? word + 4
+                                                            : std::string::npos;
     if (digits == std::string::npos) continue;
     size_t end = digits;
     while (end < text.size() && is_digit(text[end])) ++end;
     if (end == digits || end - digits > 9 || (end < text.size() && is_ident_char(text[end]))) continue;
     int n = std::stoi(text.substr(digits, end - digits));
     int r = label_representative(n);
-    if (r == n) continue;
-    out.append(text, pos, digits - pos);
-    out += std::to_string(r);
-    pos = end;
-    changed = true;
+    if (r != n) edits.push_back({digits, end - digits, std::to_string(r)});
   }
-  if (!changed) return;
-  out.append(text, pos, std::string::npos);
-  text = std::move(out);
+  code.apply(edits);
 }
 
 std::string Translator::control_on(int i) {
-  Entry& e = entry(i);
+  Operand& e = operand(i);
   if (e.jump_form()) resolve_labels(code(i));
   int number = e.false_label ? e.false_label : next_label();
   std::string f = false_name(number);
@@ -102,10 +89,10 @@ std::string Translator::control_on(int i) {
       return f;
     }
   }
-  std::string& text = code(i);
+  Code& text = code(i);
   if (e.true_label) {
     std::string t = true_name(e.true_label);
-    if (last_goto_is_true(text))
+    if (last_goto_is_true(text.text()))
       text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
     else
       text += "\n" + t + ":";
@@ -118,12 +105,13 @@ std::string Translator::control_on(int i) {
 }
 
 void Translator::to_value(int i) {
-  if (!entry(i).jump_form()) return;
+  if (!operand(i).jump_form()) return;
   std::string f = control_on(i);
   std::string t = temporary(4);
-  std::string& text = code(i);
-  text = strf("\n%s = 0;", t.c_str()) + text + strf("\n%s = 1;\n%s:", t.c_str(), f.c_str());
-  Entry& e = entry(i);
+  Code& text = code(i);
+  text.prepend(strf("\n%s = 0;", t.c_str()));
+  text += strf("\n%s = 1;\n%s:", t.c_str(), f.c_str());
+  Operand& e = operand(i);
   e.value = t;
   e.type_bits = 4;
   e.type_sym = 0;
@@ -134,12 +122,12 @@ void Translator::to_value(int i) {
 }
 
 void Translator::finish_expression(int i, bool as_statement) {
-  Entry& e = entry(i);
+  Operand& e = operand(i);
   if (e.jump_form()) {
     std::string f = control_on(i);
     code(i) += "\n" + f + ":";
-    entry(i).false_label = 0;
-    entry(i).value.clear();
+    operand(i).false_label = 0;
+    operand(i).value.clear();
     return;
   }
   if (as_statement && e.emit && !e.value.empty()) code(i) += "\n" + e.value + ";";

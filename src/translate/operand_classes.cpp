@@ -1,6 +1,7 @@
 // Operand classes, arithmetic type rules and the kinds that identifier
 // references give their entries.
 #include "common/text.h"
+#include "decl/functions.h"
 #include "decl/library_table.h"
 #include "translate/translator.h"
 
@@ -50,8 +51,10 @@ int arithmetic_result(int a, int b) {
   return 4;
 }
 
-std::string Translator::class_message(const Entry& e, int cls, bool refuse_aggregates) const {
-  bool aggregate = is_aggregate(e);
+std::string class_message(const Operand& e, int cls, bool refuse_aggregates) {
+  bool aggregate = e.dims > 0 || e.kind == 's' || e.casted;
+  auto is_function = [](const Operand& o) { return o.kind == 'n' || o.kind == 'd'; };
+  auto is_enum = [](const Operand& o) { return o.kind == 'e' || o.kind == 'c'; };
   if (cls == 1) return aggregate ? "" : "the required operand type is aggregate";
   bool arithmetic = e.type_bits != 0 && !e.empty;
   bool pass = false;
@@ -91,7 +94,7 @@ std::string Translator::class_message(const Entry& e, int cls, bool refuse_aggre
   return std::string(what) + ", the required type is " + class_names[cls];
 }
 
-bool Translator::test_class(Entry& e, int cls, bool refuse_aggregates, const char* format,
+bool Translator::test_class(Operand& e, int cls, bool refuse_aggregates, const char* format,
                             const std::string& op) {
   if (e.reported) return false;
   std::string why = class_message(e, cls, refuse_aggregates);
@@ -100,58 +103,22 @@ bool Translator::test_class(Entry& e, int cls, bool refuse_aggregates, const cha
   return false;
 }
 
-bool Translator::is_literal_zero(const Entry& e) const {
+bool Translator::is_literal_zero(const Operand& e) const {
   return e.literal && e.type_bits != 0 && e.value == "0";
 }
 
 bool Translator::same_function_type(int a, int b) const {
-  if (a == b) return true;
-  // The list owner of a function definition whose body is closed is its prototype.
-  auto signature_of = [&](int sub) {
-    if (symbols_[sub].name_is == 'f') {
-      for (int i = 1; i < symbols_.count(); ++i)
-        if (symbols_[i].name_is == 'd' && symbols_[i].name == symbols_[sub].name) return i;
-    }
-    return sub;
-  };
-  a = signature_of(a);
-  b = signature_of(b);
-  const Symbol& x = symbols_[a];
-  const Symbol& y = symbols_[b];
-  if (x.ellipsis != y.ellipsis || x.param_count != y.param_count || x.return_count != y.return_count)
-    return false;
-  std::vector<int> xs, ys;
-  for (int i = a + 1; i < symbols_.count(); ++i)
-    if (symbols_[i].owner == a && symbols_[i].p_or_r != 'n') xs.push_back(i);
-  for (int i = b + 1; i < symbols_.count(); ++i)
-    if (symbols_[i].owner == b && symbols_[i].p_or_r != 'n') ys.push_back(i);
-  if (xs.size() != ys.size()) return false;
-  for (size_t k = 0; k < xs.size(); ++k) {
-    const Symbol& p = symbols_[xs[k]];
-    const Symbol& q = symbols_[ys[k]];
-    bool p_ret = p.p_or_r == 'r' || p.p_or_r == 'b';
-    bool q_ret = q.p_or_r == 'r' || q.p_or_r == 'b';
-    if (p_ret != q_ret || p.type_bits != q.type_bits || p.dim_count() != q.dim_count() ||
-        p.is_var != q.is_var || symbols_.resolve_type(p.type_sym) != symbols_.resolve_type(q.type_sym))
-      return false;
-  }
-  return true;
+  return fun_type_mismatch(symbols_, a, b).empty();
 }
 
-void Translator::fill_from_symbol(Entry& e, int sub) {
+void Translator::fill_from_symbol(Operand& e, int sub) {
   Symbol& s = symbols_[sub];
   ++s.ref_count;
   e.value = s.name;
   switch (s.name_is) {
     case 'v': {
-      int bits = s.type_bits;
-      int t = s.type_sym;
-      // Typedef names carry their own bits.
-      for (int guard = 0; t && symbols_[t].name_is == 't' && guard < 1000; ++guard) {
-        bits |= symbols_[t].type_bits;
-        t = symbols_[t].type_sym;
-      }
-      e.type_bits = bits;
+      int t = symbols_.resolve_type(s.type_sym);
+      e.type_bits = symbols_.type_bits_of(sub);
       e.type_sym = t;
       if (t) {
         char k = symbols_[t].name_is;
@@ -169,7 +136,7 @@ void Translator::fill_from_symbol(Entry& e, int sub) {
     case 'd':
       e.kind = 'd';
       e.type_sym = sub;
-      e.value = emit_.function_name(sub);
+      e.value = decl_.emitter().function_name(sub);
       if (find_library_function(s.name) >= 0 && s.name != "main")
         report(e, strf("'%s' : the names of YARL C library functions are reserved and cannot be "
                        "used as function pointers",

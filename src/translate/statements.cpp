@@ -22,75 +22,56 @@ constexpr int max_exception = 32000;
 
 int Translator::unlabelled_frames() const {
   int n = 0;
-  for (const Frame& f : frames_)
+  if (!fn_) return 0;
+  for (const FunctionContext::Frame& f : fn_->frames)
     if (!f.labelled) ++n;
   return n;
 }
 
-void Translator::replace_top(int n, std::string text, int line) {
-  for (int k = 0; k < n && stack_size() > 0; ++k) pop_entry(nullptr);
-  push_entry(line);
-  code(top_index()) = std::move(text);
-}
-
 // ---- Function bodies, blocks and statement frames -----------------------------
 
-void Translator::open_function_body(const Token& lbrace, const FunctionLabels& labels) {
-  Declarations::open_function_body(lbrace, labels);
-  statement_labels_.clear();
+void Translator::open_function_body(const Token&, const FunctionLabels& labels) {
+  fn_ = std::make_unique<FunctionContext>();
+  FunctionContext& f = *fn_;
   for (const Token* t : labels.labels) {
-    LabelInfo& info = statement_labels_[std::string(t->text)];
+    FunctionContext::Label& info = f.statement_labels[std::string(t->text)];
     if (info.line == 0) info.line = t->line;
   }
-  handlers_.clear();
-  handler_order_.clear();
   for (const Token* t : labels.handlers) {
     char* end = nullptr;
     errno = 0;
     long n = std::strtol(std::string(t->text).c_str(), &end, 10);
     if (errno || n < 1 || n > max_exception) continue;
-    if (handlers_.emplace(static_cast<int>(n), false).second) handler_order_.push_back(static_cast<int>(n));
+    if (f.handlers.emplace(static_cast<int>(n), false).second) f.handler_order.push_back(static_cast<int>(n));
   }
-  enum_counts_.clear();
-  temp_declared_.clear();
-  temp_next_.clear();
-  loops_.clear();
-  switches_.clear();
-  for_heads_.clear();
-  labels_pending_.clear();
-  ws_.truncate_fragments(0);
-  entries_.clear();
-  frames_.clear();
-  frames_.push_back({true, 0});
+  stack_.clear();
+  f.frames.push_back({true, 0});
   ws_.to_fragment = true;
 }
 
-void Translator::close_function_body(const Token& rbrace) {
-  for (const auto& [name, info] : statement_labels_)
+void Translator::close_function_body(const Token&) {
+  for (const auto& [name, info] : fn().statement_labels)
     if (info.defined > 0 && info.referenced == 0)
       diag_.warning(info.line, strf("statement label '%s' is unreferenced in this function", name.c_str()), 2);
   ws_.to_fragment = false;
-  ws_.truncate_fragments(0);
-  entries_.clear();
-  frames_.clear();
-  Declarations::close_function_body(rbrace);
+  stack_.clear();
+  fn_.reset();
 }
 
 void Translator::begin_statement(const Token&) {
-  temp_next_.clear();
-  frames_.push_back({false, stack_size()});
+  fn().temp_next.clear();
+  fn().frames.push_back({false, stack_size()});
 }
 
 void Translator::end_statement(const Token& last) {
-  if (frames_.empty()) return;
-  Frame f = frames_.back();
-  frames_.pop_back();
+  if (fn().frames.empty()) return;
+  FunctionContext::Frame f = fn().frames.back();
+  fn().frames.pop_back();
   if (stack_size() < f.level) return;
   join_above(f.level, last.line);
-  if (!frames_.empty() && !frames_.back().block) return;
+  if (!fn().frames.empty() && !fn().frames.back().block) return;
   // A block item: flushed into the enclosing fragment or the work file.
-  std::string text;
-  pop_entry(&text);
+  std::string text = pop_text();
   if (stack_size() == 0)
     ws_.put_text('n', text);
   else
@@ -102,22 +83,20 @@ void Translator::expression_statement(const Token& semicolon) {
   finish_expression(top_index(), true);
 }
 
-void Translator::empty_statement(const Token& semicolon) { push_entry(semicolon.line); }
+void Translator::empty_statement(const Token& semicolon) { push_operand(semicolon.line); }
 
 void Translator::open_block(const Token& lbrace) {
-  push_entry(lbrace.line);
-  frames_.push_back({true, stack_size()});
-  Declarations::open_block(lbrace);
+  push_operand(lbrace.line);
+  fn().frames.push_back({true, stack_size()});
 }
 
-void Translator::close_block(const Token& rbrace) {
-  if (!frames_.empty() && frames_.back().block) frames_.pop_back();
+void Translator::close_block(const Token&) {
+  if (!fn().frames.empty() && fn().frames.back().block) fn().frames.pop_back();
   // C wants a statement between a label and the brace that closes a block.
   if (stack_size() > 0) {
-    std::string& text = code(top_index());
-    if (text.starts_with("\n{") && ends_with(text, ":")) text += "\n;";
+    Code& text = code(top_index());
+    if (text.text().starts_with("\n{") && ends_with(text.text(), ":")) text += "\n;";
   }
-  Declarations::close_block(rbrace);
 }
 
 // ---- Structured statements ----------------------------------------------------------
@@ -129,19 +108,18 @@ void Translator::control_expression(const Token& rparen) {
 
 void Translator::if_end(bool has_else, const Token& last) {
   ensure_operands(has_else ? 3 : 2, last.line);
-  std::string else_code, then_code;
-  if (has_else) pop_entry(&else_code);
-  pop_entry(&then_code);
+  std::string else_code = has_else ? pop_text() : std::string();
+  std::string then_code = pop_text();
   int i = top_index();
-  std::string f = false_name(entry(i).false_label);
-  std::string& text = code(i);
+  std::string f = false_name(operand(i).false_label);
+  Code& text = code(i);
   if (has_else) {
-    std::string skip = generated_name("skip", ++skip_counter_);
+    std::string skip = generated("skip", ++skip_counter_);
     text += then_code + strf("\ngoto %s;\n%s:", skip.c_str(), f.c_str()) + else_code + "\n" + skip + ":";
   } else {
     text += then_code + "\n" + f + ":";
   }
-  Entry& e = entry(i);
+  Operand& e = operand(i);
   e.value.clear();
   e.false_label = e.true_label = 0;
 }
@@ -149,16 +127,15 @@ void Translator::if_end(bool has_else, const Token& last) {
 void Translator::while_start(const Token& rparen) {
   ensure_operands(1, rparen.line);
   std::string f = control_on(top_index());
-  loops_.push_back({'p', generated_name("cont", ++cont_counter_), f});
+  fn().loops.push_back({'p', generated("cont", ++cont_counter_), f});
 }
 
 void Translator::while_end(const Token& last) {
   ensure_operands(2, last.line);
-  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
-  if (!loops_.empty()) loops_.pop_back();
-  std::string body, condition;
-  pop_entry(&body);
-  pop_entry(&condition);
+  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
+  if (!fn().loops.empty()) fn().loops.pop_back();
+  std::string body = pop_text();
+  std::string condition = pop_text();
   replace_top(0,
               "\n" + loop.cont + ":" + condition + body +
                   strf("\ngoto %s;\n%s:", loop.cont.c_str(), loop.brk.c_str()),
@@ -166,22 +143,21 @@ void Translator::while_end(const Token& last) {
 }
 
 void Translator::do_start(const Token&) {
-  std::string c = generated_name("cont", ++cont_counter_);
-  loops_.push_back({'p', c, false_name(next_label())});
+  std::string c = generated("cont", ++cont_counter_);
+  fn().loops.push_back({'p', c, false_name(next_label())});
 }
 
 void Translator::do_end(const Token& rparen) {
   ensure_operands(2, rparen.line);
-  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
-  if (!loops_.empty()) loops_.pop_back();
-  std::string top = generated_name("cont", ++cont_counter_);
+  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
+  if (!fn().loops.empty()) fn().loops.pop_back();
+  std::string top = generated("cont", ++cont_counter_);
   std::string own_false = control_on(top_index());
-  std::string condition, body;
-  pop_entry(&condition);
+  Code condition = pop_operand().code;
   rename_label(condition, own_false, loop.brk);
-  pop_entry(&body);
+  std::string body = pop_text();
   replace_top(0,
-              "\n" + top + ":" + body + "\n" + loop.cont + ":" + condition +
+              "\n" + top + ":" + body + "\n" + loop.cont + ":" + condition.text() +
                   strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
               rparen.line);
 }
@@ -194,23 +170,23 @@ void Translator::for_start(bool has_init, bool has_condition, bool has_step, con
   int condition = has_condition ? i++ : -1;
   if (has_step) finish_expression(i, true);
   std::string f = condition >= 0 ? control_on(condition) : false_name(next_label());
-  loops_.push_back({'p', generated_name("cont", ++cont_counter_), f});
-  for_heads_.push_back((has_init ? 1 : 0) | (has_condition ? 2 : 0) | (has_step ? 4 : 0));
+  fn().loops.push_back({'p', generated("cont", ++cont_counter_), f});
+  fn().for_heads.push_back((has_init ? 1 : 0) | (has_condition ? 2 : 0) | (has_step ? 4 : 0));
 }
 
 void Translator::for_end(const Token& last) {
-  int heads = for_heads_.empty() ? 0 : for_heads_.back();
-  if (!for_heads_.empty()) for_heads_.pop_back();
-  LoopEntry loop = loops_.empty() ? LoopEntry{'p', "", ""} : loops_.back();
-  if (!loops_.empty()) loops_.pop_back();
+  int heads = fn().for_heads.empty() ? 0 : fn().for_heads.back();
+  if (!fn().for_heads.empty()) fn().for_heads.pop_back();
+  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
+  if (!fn().loops.empty()) fn().loops.pop_back();
   int count = 1 + ((heads & 1) ? 1 : 0) + ((heads & 2) ? 1 : 0) + ((heads & 4) ? 1 : 0);
   ensure_operands(count, last.line);
   std::string init, condition, step, body;
-  pop_entry(&body);
-  if (heads & 4) pop_entry(&step);
-  if (heads & 2) pop_entry(&condition);
-  if (heads & 1) pop_entry(&init);
-  std::string top = generated_name("cont", ++cont_counter_);
+  body = pop_text();
+  if (heads & 4) step = pop_text();
+  if (heads & 2) condition = pop_text();
+  if (heads & 1) init = pop_text();
+  std::string top = generated("cont", ++cont_counter_);
   replace_top(0,
               init + "\n" + top + ":" + condition + body + "\n" + loop.cont + ":" + step +
                   strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
@@ -221,22 +197,22 @@ void Translator::for_end(const Token& last) {
 
 void Translator::goto_stmt(const Token& label) {
   std::string name(label.text);
-  push_entry(label.line);
-  auto found = statement_labels_.find(name);
-  if (found == statement_labels_.end()) {
+  push_operand(label.line);
+  auto found = fn().statement_labels.find(name);
+  if (found == fn().statement_labels.end()) {
     diag_.error(label.line,
                 strf("the goto label '%s' is not defined as a statement label in this function", name.c_str()));
   } else {
     ++found->second.referenced;
   }
-  code(top_index()) = "\ngoto " + name + ";";
+  code(top_index()) += "\ngoto " + name + ";";
 }
 
 void Translator::continue_stmt(const Token& keyword) {
-  push_entry(keyword.line);
-  for (auto it = loops_.rbegin(); it != loops_.rend(); ++it) {
+  push_operand(keyword.line);
+  for (auto it = fn().loops.rbegin(); it != fn().loops.rend(); ++it) {
     if (it->kind == 'p') {
-      code(top_index()) = "\ngoto " + it->cont + ";";
+      code(top_index()) += "\ngoto " + it->cont + ";";
       return;
     }
   }
@@ -245,24 +221,24 @@ void Translator::continue_stmt(const Token& keyword) {
 }
 
 void Translator::break_stmt(const Token& keyword) {
-  push_entry(keyword.line);
-  if (loops_.empty()) {
+  push_operand(keyword.line);
+  if (fn().loops.empty()) {
     diag_.error(keyword.line,
                 "illegal placement of break: there is no enclosing while, do, for, or switch statement");
     return;
   }
-  const LoopEntry& loop = loops_.back();
+  const FunctionContext::Loop& loop = fn().loops.back();
   if (loop.kind == 'p')
-    code(top_index()) = "\ngoto " + loop.brk + ";";
+    code(top_index()) += "\ngoto " + loop.brk + ";";
   else if (loop.kind == 's')
-    code(top_index()) = "\nbreak;";
+    code(top_index()) += "\nbreak;";
   else
     internal_check_failed("loop kind 'p' or 's'", source_name, __LINE__);
 }
 
 void Translator::return_stmt(const Token& keyword) {
-  push_entry(keyword.line);
-  code(top_index()) = "\ngoto " + generated_name("finish") + ";";
+  push_operand(keyword.line);
+  code(top_index()) += "\ngoto " + generated("finish") + ";";
 }
 
 bool Translator::exception_number(const Token& number, int& value) {
@@ -285,41 +261,41 @@ bool Translator::exception_number(const Token& number, int& value) {
 void Translator::raise_stmt(const Token& number) {
   int n = 0;
   exception_number(number, n);
-  push_entry(number.line);
-  code(top_index()) = strf("\n%s = %d;\ngoto %s;", generated_name("exception").c_str(), n,
-                           generated_name("finish").c_str());
+  push_operand(number.line);
+  code(top_index()) += strf("\n%s = %d;\ngoto %s;", generated("exception").c_str(), n,
+                           generated("finish").c_str());
 }
 
 // ---- Labelled statements -----------------------------------------------------------
 
 void Translator::enter_labelled_statement(LabelKind kind, const Token&) {
-  if (!frames_.empty()) frames_.back().labelled = true;
-  labels_pending_.push_back({});
-  if (switches_.empty()) return;
-  SwitchEntry& sw = switches_.back();
+  if (!fn().frames.empty()) fn().frames.back().labelled = true;
+  fn().labels_pending.push_back(std::string());
+  if (fn().switches.empty()) return;
+  FunctionContext::Switch& sw = fn().switches.back();
   ++sw.label_depth;
   if (kind == LabelKind::Case || kind == LabelKind::Default) sw.break_pending = true;
 }
 
 void Translator::statement_label(const Token& name) {
   std::string n(name.text);
-  LabelInfo& info = statement_labels_[n];
+  FunctionContext::Label& info = fn().statement_labels[n];
   if (info.line == 0) info.line = name.line;
   if (++info.defined > 1)
     diag_.error(name.line,
                 strf("statement label '%s' is a duplicate: defined elsewhere in this function", n.c_str()));
-  if (!labels_pending_.empty()) labels_pending_.back().text = "\n" + n + ":";
+  if (!fn().labels_pending.empty()) fn().labels_pending.back() = "\n" + n + ":";
 }
 
 void Translator::case_label(CaseForm form, int mode, const Token& value) {
   Folded folded;
-  if (form == CaseForm::ConstantExpression) folded = pop_constant();
-  std::string* pending = labels_pending_.empty() ? nullptr : &labels_pending_.back().text;
-  if (switches_.empty()) {
+  if (form == CaseForm::ConstantExpression) folded = decl_.pop_constant();
+  std::string* pending = fn().labels_pending.empty() ? nullptr : &fn().labels_pending.back();
+  if (fn().switches.empty()) {
     diag_.error(value.line, "a case label can only appear within a switch statement");
     return;
   }
-  SwitchEntry& sw = switches_.back();
+  FunctionContext::Switch& sw = fn().switches.back();
   if (unlabelled_frames() != sw.depth)
     diag_.error(value.line, "a case label must appear on a top-level statement within the switch statement");
   if (mode != 1 && mode != 2) internal_check_failed("mode == 1 || mode == 2", source_name, __LINE__);
@@ -407,12 +383,12 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
 }
 
 void Translator::default_label(const Token& keyword) {
-  if (!labels_pending_.empty()) labels_pending_.back().text = "\ndefault:";
-  if (switches_.empty()) {
+  if (!fn().labels_pending.empty()) fn().labels_pending.back() = "\ndefault:";
+  if (fn().switches.empty()) {
     diag_.error(keyword.line, "a default label can only appear within a switch statement");
     return;
   }
-  SwitchEntry& sw = switches_.back();
+  FunctionContext::Switch& sw = fn().switches.back();
   if (unlabelled_frames() != sw.depth)
     diag_.error(keyword.line,
                 "a default label must appear on a top-level statement within the switch statement");
@@ -426,9 +402,9 @@ void Translator::default_label(const Token& keyword) {
 void Translator::exception_handler(const Token& number) {
   int n = 0;
   bool valid = exception_number(number, n);
-  if (!labels_pending_.empty()) labels_pending_.back().text = "\n" + generated_name("exception", n) + ":";
+  if (!fn().labels_pending.empty()) fn().labels_pending.back() = "\n" + generated("exception", n) + ":";
   if (!valid) return;
-  bool& defined = handlers_[n];
+  bool& defined = fn().handlers[n];
   if (defined)
     diag_.error(number.line,
                 strf("duplicate : the function has more than a single handler defined for exception %d", n));
@@ -438,17 +414,17 @@ void Translator::exception_handler(const Token& number) {
 void Translator::leave_labelled_statement(LabelKind, const Token& last) {
   ensure_operands(1, last.line);
   std::string label;
-  if (!labels_pending_.empty()) {
-    label = std::move(labels_pending_.back().text);
-    labels_pending_.pop_back();
+  if (!fn().labels_pending.empty()) {
+    label = std::move(fn().labels_pending.back());
+    fn().labels_pending.pop_back();
   }
-  std::string& text = code(top_index());
-  text.insert(0, label);
-  if (switches_.empty()) return;
-  SwitchEntry& sw = switches_.back();
+  Code& text = code(top_index());
+  text.prepend(label);
+  if (fn().switches.empty()) return;
+  FunctionContext::Switch& sw = fn().switches.back();
   if (--sw.label_depth == 0 && sw.break_pending) {
     sw.break_pending = false;
-    text.insert(0, "\nbreak;");
+    text.prepend("\nbreak;");
   }
 }
 
@@ -458,32 +434,25 @@ void Translator::switch_start(const Token& rparen) {
   ensure_operands(1, rparen.line);
   int i = top_index();
   to_value(i);
-  Entry& e = entry(i);
+  Operand& e = operand(i);
   bool integral = class_message(e, 7, true).empty();
   bool enumeration = is_enum(e) && e.dims == 0 && !e.casted;
   if (!e.reported && !integral && !enumeration)
     report(e, "the expression of the switch statement requires an integral or enumeration type");
-  SwitchEntry sw;
+  FunctionContext::Switch sw;
   sw.enum_type = e.kind == 'e' && e.dims == 0 ? e.type_sym : 0;
   sw.depth = unlabelled_frames() + 2;
-  switches_.push_back(sw);
-  loops_.push_back({'s', "", ""});
+  fn().switches.push_back(sw);
+  fn().loops.push_back({'s', "", ""});
 }
 
 void Translator::switch_end(const Token& rbrace) {
   ensure_operands(2, rbrace.line);
-  SwitchEntry sw = switches_.empty() ? SwitchEntry{} : switches_.back();
-  if (!switches_.empty()) switches_.pop_back();
-  if (!loops_.empty()) loops_.pop_back();
+  FunctionContext::Switch sw = fn().switches.empty() ? FunctionContext::Switch{} : fn().switches.back();
+  if (!fn().switches.empty()) fn().switches.pop_back();
+  if (!fn().loops.empty()) fn().loops.pop_back();
   if (sw.enum_type && !sw.default_seen) {
-    auto known = enum_counts_.find(sw.enum_type);
-    if (known == enum_counts_.end()) {
-      int declared = 0;
-      for (int k = sw.enum_type + 1; k < symbols_.count(); ++k)
-        if (symbols_[k].name_is == 'c' && symbols_[k].owner == sw.enum_type) ++declared;
-      known = enum_counts_.emplace(sw.enum_type, declared).first;
-    }
-    int declared = known->second;
+    int declared = symbols_[sw.enum_type].enum_count;
     int used = static_cast<int>(sw.constants.size());
     if (used != declared)
       diag_.error(rbrace.line,
@@ -492,12 +461,11 @@ void Translator::switch_end(const Token& rbrace) {
                        "there is no 'default' label",
                        symbols_[sw.enum_type].shown_name().c_str(), declared, used));
   }
-  std::string body;
-  pop_entry(&body);
+  std::string body = pop_text();
   int i = top_index();
-  std::string& text = code(i);
-  text += "\nswitch(" + entry(i).value + ")\n{" + body + "\n;}";
-  entry(i).value.clear();
+  Code& text = code(i);
+  text += "\nswitch(" + operand(i).value + ")\n{" + body + "\n;}";
+  operand(i).value.clear();
 }
 
 }  // namespace ycc

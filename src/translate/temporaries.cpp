@@ -41,19 +41,20 @@ void Translator::add_local(const std::string& text) {
 
 std::string Translator::temporary(int type_bits) {
   int row = temp_row(type_bits);
-  int n = ++temp_next_[row];
-  std::string name = generated_name(temp_types[row].word, n);
-  if (n > temp_declared_[row]) {
-    temp_declared_[row] = n;
+  FunctionContext& f = fn();
+  int n = ++f.temp_next[row];
+  std::string name = generated(temp_types[row].word, n);
+  if (n > f.temp_declared[row]) {
+    f.temp_declared[row] = n;
     add_local(strf("\n%s %s;", temp_types[row].c_type, name.c_str()));
   }
   return name;
 }
 
-void Translator::string_literal(Entry& e, const Token& t) {
+void Translator::string_literal(Operand& e, const Token& t) {
   StringConstant sc = check_string_constant(t.text, diag_, t.line);
   if (sc.error) e.reported = true;
-  std::string s = generated_name("string", ++string_counter_);
+  std::string s = generated("string", ++string_counter_);
   int length = sc.length;
   if (t.text.size() <= 400) {
     add_local(strf("\nstatic char %s[%d] = %s;", s.c_str(), length + 1, sc.c_text.c_str()));
@@ -96,12 +97,11 @@ void Translator::string_literal(Entry& e, const Token& t) {
     list += ", 0}";
     add_local(strf("\nstatic char %s[%d] = %s;", s.c_str(), length + 1, list.c_str()));
   }
-  std::string meta = strf("%s%dD_meta", prefix_.c_str(), 1);
-  add_local(strf("\nstatic struct %s %s_%s = {%s,%d,%d};", meta.c_str(), prefix_.c_str(), s.c_str(),
-                 s.c_str(), length, length + 1));
+  std::string record = names_.companion(s);
+  add_local(strf("\nstatic struct %s %s = {%s,%d,%d};", names_.meta_type(1).c_str(), record.c_str(), s.c_str(),
+                 length, length + 1));
   ws_.note_dimensions(1);
-  max_dims_ = std::max(max_dims_, 1);
-  e.value = prefix_ + "_" + s;
+  e.value = record;
   e.type_bits = 1;
   e.dims = 1;
 }

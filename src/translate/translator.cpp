@@ -4,35 +4,39 @@
 
 namespace ycc {
 
-Translator::Translator(const Options& options, Diagnostics& diag, const TokenBuffer& tokens,
-                       Workspace& ws, const std::string& prefix)
-    : Declarations(options, diag, tokens, ws), prefix_(prefix) {}
-
-std::string Translator::generated_name(const char* word, int number) const {
-  if (number < 1) return strf("%s%s_%s", prefix_.c_str(), prefix_.c_str(), word);
-  return strf("%s%s_%s%d", prefix_.c_str(), prefix_.c_str(), word, number);
+Translator::Translator(const Options& options, Diagnostics& diag, Workspace& ws, Declarations& decl,
+                       const Names& names)
+    : options_(options), diag_(diag), ws_(ws), decl_(decl), symbols_(decl.symbols()), names_(names) {
+  // Declarations met in the middle of a statement (a nested block's brace and
+  // locals) land in the code of the statement that encloses them.
+  ws_.fragment_sink = [this]() -> std::string* {
+    return stack_.empty() ? nullptr : &stack_.back().code.appendable();
+  };
 }
 
-Entry& Translator::push_entry(int line) {
-  ws_.new_fragment();
-  entries_.emplace_back();
-  entries_.back().line = line;
-  return entries_.back();
+Translator::~Translator() { ws_.fragment_sink = nullptr; }
+
+FunctionContext& Translator::fn() {
+  if (!fn_) fn_ = std::make_unique<FunctionContext>();
+  return *fn_;
 }
 
-Entry Translator::pop_entry(std::string* code_out) {
-  int i = top_index();
-  if (code_out) *code_out = std::move(code(i));
-  Entry e = std::move(entries_.back());
-  entries_.pop_back();
-  ws_.truncate_fragments(i);
+Operand& Translator::push_operand(int line) {
+  stack_.emplace_back();
+  stack_.back().line = line;
+  return stack_.back();
+}
+
+Operand Translator::pop_operand() {
+  Operand e = std::move(stack_.back());
+  stack_.pop_back();
   return e;
 }
 
 void Translator::ensure_operands(int n, int line) {
-  int floor = frames_.empty() ? 0 : frames_.back().level;
+  int floor = fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0;
   while (stack_size() - floor < n) {
-    Entry& e = push_entry(line);
+    Operand& e = push_operand(line);
     e.reported = true;
     e.empty = true;
   }
@@ -40,17 +44,21 @@ void Translator::ensure_operands(int n, int line) {
 
 void Translator::join_above(int level, int line) {
   if (stack_size() == level) {
-    push_entry(line);
+    push_operand(line);
     return;
   }
   while (stack_size() > level + 1) {
-    std::string text;
-    Entry e = pop_entry(&text);
-    code(top_index()) += text;
+    Operand e = pop_operand();
+    code(top_index()) += e.code.take();
   }
 }
 
-void Translator::report(Entry& e, const std::string& text) {
+void Translator::replace_top(int n, std::string text, int line) {
+  for (int k = 0; k < n && stack_size() > 0; ++k) pop_operand();
+  push_operand(line).code = Code(std::move(text));
+}
+
+void Translator::report(Operand& e, const std::string& text) {
   e.reported = true;
   diag_.error(e.line, text);
 }

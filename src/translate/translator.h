@@ -1,43 +1,29 @@
 // The translation of statements and expressions. Every statement becomes
 // labels and goto (switch stays a C switch); every operator is checked
-// against the classes of its operands and lowered into C text. The parser's
-// expression stack lives here: one entry per pending code fragment of the
-// workspace, entry i owning fragment i, so that text the declaration actions
-// write with put_text in the middle of a statement lands in the fragment of
-// the statement that encloses it.
+// against the classes of its operands and lowered into C text. The operands
+// wait on the expression/statement stack until the construct that joins
+// them is complete; each owns its code.
+//
+// The grammar's expression and statement actions arrive here (through the
+// file's action dispatcher); the declarations are Declarations' business,
+// reached through its small interface.
 #pragma once
 
 #include <map>
-#include <set>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "common/names.h"
+#include "common/options.h"
 #include "decl/declarations.h"
+#include "diag/diagnostics.h"
+#include "front/actions.h"
 #include "output/workspace.h"
+#include "translate/function_context.h"
+#include "translate/operand.h"
 
 namespace ycc {
-
-// One entry of the statement/expression stack; its code text is the
-// workspace fragment with the same index.
-struct Entry {
-  std::string value;      // C text of the value
-  int type_bits = 0;      // arithmetic type code; 0 for none
-  int type_sym = 0;       // structure/enumeration/fun type, or the function itself
-  char kind = 0;          // 's' structure, 'n' function pointer, 'd' function name,
-                          // 'e' enumeration variable, 'c' enumeration constant
-  int dims = 0;
-  bool casted = false;    // casted character space
-  int false_label = 0;    // jump form: label numbers, 0 when none
-  int true_label = 0;
-  bool reported = false;  // a diagnostic was issued for this expression
-  bool emit = false;      // emitted as "\n%s;" when it stands as a statement
-  bool lvalue = false;
-  bool literal = false;   // a literal constant
-  bool empty = false;     // no value at all
-  int line = 0;
-
-  bool jump_form() const { return false_label != 0 || true_label != 0; }
-};
 
 // Arithmetic type rules shared by the operators.
 bool sufficiently_equivalent(int a, int b);
@@ -45,93 +31,98 @@ bool exactly_equivalent(int a, int b);
 int arithmetic_result(int a, int b);
 inline bool is_floating(int bits) { return (bits & 48) != 0; }
 
-class Translator : public Declarations {
- public:
-  Translator(const Options& options, Diagnostics& diag, const TokenBuffer& tokens, Workspace& ws,
-             const std::string& prefix);
+// The operand class test (classes 1 to 8): empty when `e` passes, else the
+// class message ("cannot be a space, the required type is scalar").
+std::string class_message(const Operand& e, int cls, bool refuse_aggregates);
 
-  // Generated names: prefix twice, "_", the word, and the number when above 0.
-  std::string generated_name(const char* word, int number = 0) const;
-  // The operand class test: empty when `e` passes, else the class message.
-  std::string class_message(const Entry& e, int cls, bool refuse_aggregates) const;
+class Translator {
+ public:
+  Translator(const Options& options, Diagnostics& diag, Workspace& ws, Declarations& decl,
+             const Names& names);
+  ~Translator();
 
   // ---- Statements (statements.cpp) ----
-  void open_function_body(const Token& lbrace, const FunctionLabels& labels) override;
-  void close_function_body(const Token& rbrace) override;
-  void begin_statement(const Token& first) override;
-  void end_statement(const Token& last) override;
-  void expression_statement(const Token& semicolon) override;
-  void empty_statement(const Token& semicolon) override;
-  void open_block(const Token& lbrace) override;
-  void close_block(const Token& rbrace) override;
-  void control_expression(const Token& rparen) override;
-  void if_end(bool has_else, const Token& last) override;
-  void switch_start(const Token& rparen) override;
-  void switch_end(const Token& rbrace) override;
-  void while_start(const Token& rparen) override;
-  void while_end(const Token& last) override;
-  void do_start(const Token& keyword) override;
-  void do_end(const Token& rparen) override;
-  void for_start(bool has_init, bool has_condition, bool has_step, const Token& rparen) override;
-  void for_end(const Token& last) override;
-  void goto_stmt(const Token& label) override;
-  void continue_stmt(const Token& keyword) override;
-  void break_stmt(const Token& keyword) override;
-  void return_stmt(const Token& keyword) override;
-  void raise_stmt(const Token& number) override;
-  void enter_labelled_statement(LabelKind kind, const Token& first) override;
-  void statement_label(const Token& name) override;
-  void case_label(CaseForm form, int mode, const Token& value) override;
-  void default_label(const Token& keyword) override;
-  void exception_handler(const Token& number) override;
-  void leave_labelled_statement(LabelKind kind, const Token& last) override;
+  void open_function_body(const Token& lbrace, const FunctionLabels& labels);
+  void close_function_body(const Token& rbrace);
+  void begin_statement(const Token& first);
+  void end_statement(const Token& last);
+  void expression_statement(const Token& semicolon);
+  void empty_statement(const Token& semicolon);
+  void open_block(const Token& lbrace);
+  void close_block(const Token& rbrace);
+  void control_expression(const Token& rparen);
+  void if_end(bool has_else, const Token& last);
+  void switch_start(const Token& rparen);
+  void switch_end(const Token& rbrace);
+  void while_start(const Token& rparen);
+  void while_end(const Token& last);
+  void do_start(const Token& keyword);
+  void do_end(const Token& rparen);
+  void for_start(bool has_init, bool has_condition, bool has_step, const Token& rparen);
+  void for_end(const Token& last);
+  void goto_stmt(const Token& label);
+  void continue_stmt(const Token& keyword);
+  void break_stmt(const Token& keyword);
+  void return_stmt(const Token& keyword);
+  void raise_stmt(const Token& number);
+  void enter_labelled_statement(LabelKind kind, const Token& first);
+  void statement_label(const Token& name);
+  void case_label(CaseForm form, int mode, const Token& value);
+  void default_label(const Token& keyword);
+  void exception_handler(const Token& number);
+  void leave_labelled_statement(LabelKind kind, const Token& last);
 
   // ---- Expressions (expressions.cpp) ----
-  void comma(const Token& op) override;
-  void assignment(AssignMode mode, const Token& op) override;
-  void conditional(const Token& question, const Token& colon) override;
-  void logical_or(const Token& op) override;
-  void logical_and(const Token& op) override;
-  void binary_operator(const Token& op) override;
-  void unary_operator(const Token& op, Fix fix) override;
-  void cast(const Token& lparen) override;
-  void sizeof_type(const Token& keyword) override;
-  void sizeof_expr(const Token& keyword) override;
-  void constant(const Token& literal) override;
-  void parenthesized(const Token& lparen) override;
-  void identifier(const Token& name) override;
-  void subscript(SubscriptKind kind, const Token& lbracket) override;
-  void member(const Token& name) override;
-  void occurs(const Token& t) override;
-  void limit(const Token& t) override;
-  void end_space_reference(const Token& last) override;
-  void added_length(const Token& t) override;
-  void free_reference(const Token& keyword) override;
-  void call(const CallInfo& info) override;
-  void syntax_error_operand(const Token& at) override;
+  void comma(const Token& op);
+  void assignment(AssignMode mode, const Token& op);
+  void conditional(const Token& question, const Token& colon);
+  void logical_or(const Token& op);
+  void logical_and(const Token& op);
+  void binary_operator(const Token& op);
+  void unary_operator(const Token& op, Fix fix);
+  void cast(const Token& lparen);
+  void sizeof_type(const Token& keyword);
+  void sizeof_expr(const Token& keyword);
+  void constant(const Token& literal);
+  void parenthesized(const Token& lparen);
+  void identifier(const Token& name);
+  void subscript(SubscriptKind kind, const Token& lbracket);
+  void member(const Token& name);
+  void occurs(const Token& t);
+  void limit(const Token& t);
+  void end_space_reference(const Token& last);
+  void added_length(const Token& t);
+  void free_reference(const Token& keyword);
+  void call(const CallInfo& info);
+  void syntax_error_operand(const Token& at);
 
-  // For tests: the stack depth and the label counters.
-  int stack_size() const { return static_cast<int>(entries_.size()); }
+  // For tests: the stack depth.
+  int stack_size() const { return static_cast<int>(stack_.size()); }
 
- protected:
+ private:
   // ---- The stack (translator.cpp) ----
-  Entry& push_entry(int line);
-  Entry& entry(int i) { return entries_[static_cast<size_t>(i)]; }
-  Entry& top() { return entries_.back(); }
-  std::string& code(int i) { return ws_.fragment_text(i); }
-  int top_index() const { return static_cast<int>(entries_.size()) - 1; }
-  // Pops the top entry, handing back its code.
-  Entry pop_entry(std::string* code_out);
-  // Makes sure `n` entries stand on the stack (syntax errors can leave fewer).
+  Operand& push_operand(int line);
+  Operand& operand(int i) { return stack_[static_cast<size_t>(i)]; }
+  Operand& top() { return stack_.back(); }
+  Code& code(int i) { return operand(i).code; }
+  int top_index() const { return static_cast<int>(stack_.size()) - 1; }
+  Operand pop_operand();
+  std::string pop_text() { return pop_operand().code.take(); }
+  // Makes sure `n` operands stand on the stack (syntax errors can leave fewer).
   void ensure_operands(int n, int line);
-  // Joins every entry above `level` into one.
+  // Joins every operand above `level` into one.
   void join_above(int level, int line);
-  void report(Entry& e, const std::string& text);
+  // Pops the top `n` operands and pushes one whose code is `text`.
+  void replace_top(int n, std::string text, int line);
+  void report(Operand& e, const std::string& text);
+  // The function being translated (made on demand after a syntax error).
+  FunctionContext& fn();
+  std::string generated(std::string_view word, int number = 0) const { return names_.generated(word, number); }
 
   // ---- Labels (labels.cpp) ----
   int next_label() { return ++label_counter_; }
-  std::string false_name(int n) const { return generated_name("false", n); }
-  std::string true_name(int n) const { return generated_name("true", n); }
+  std::string false_name(int n) const { return generated("false", n); }
+  std::string true_name(int n) const { return generated("true", n); }
   // Whether the last goto of `code` jumps to a true label.
   bool last_goto_is_true(const std::string& code) const;
   // Label numbers merged by && and || without rewriting text at once: the
@@ -139,101 +130,51 @@ class Translator : public Declarations {
   // chain of operators stays linear.
   void alias_label(int from, int to);
   int label_representative(int n);
-  void resolve_labels(std::string& code);
+  void resolve_labels(Code& code);
   // Replaces every whole occurrence of the label `from` in `code` by `to`.
-  static void rename_label(std::string& code, const std::string& from, const std::string& to);
-  // The control expression on entry i: appends its test; returns the false label.
+  static void rename_label(Code& code, const std::string& from, const std::string& to);
+  // The control expression on operand i: appends its test; returns the false label.
   std::string control_on(int i);
-  // Jump form to value: the entry's labels become an int temporary.
+  // Jump form to value: the operand's labels become an int temporary.
   void to_value(int i);
   // An expression whose value is not used: labels placed, value emitted if marked.
   void finish_expression(int i, bool as_statement);
+  void become_jump_form(Operand& e, int false_label, int true_label, bool reported);
 
   // ---- Operand classes (operand_classes.cpp) ----
-  bool test_class(Entry& e, int cls, bool refuse_aggregates, const char* format,
-                  const std::string& op);
-  bool is_literal_zero(const Entry& e) const;
-  bool is_enum(const Entry& e) const { return e.kind == 'e' || e.kind == 'c'; }
-  bool is_function(const Entry& e) const { return e.kind == 'n' || e.kind == 'd'; }
-  bool is_aggregate(const Entry& e) const { return e.dims > 0 || e.kind == 's' || e.casted; }
+  bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op);
+  bool is_literal_zero(const Operand& e) const;
+  bool is_enum(const Operand& e) const { return e.kind == 'e' || e.kind == 'c'; }
+  bool is_function(const Operand& e) const { return e.kind == 'n' || e.kind == 'd'; }
+  bool is_aggregate(const Operand& e) const { return e.dims > 0 || e.kind == 's' || e.casted; }
   bool same_function_type(int a, int b) const;
-  void fill_from_symbol(Entry& e, int sub);
+  void fill_from_symbol(Operand& e, int sub);
 
   // ---- Temporaries and strings (temporaries.cpp) ----
   std::string temporary(int type_bits);
-  void string_literal(Entry& e, const Token& t);
+  void string_literal(Operand& e, const Token& t);
   void add_local(const std::string& text);
 
-  std::string prefix_;
-  std::vector<Entry> entries_;
-
-  // Statement frames: block items flush into the enclosing fragment, the
-  // parts of a structured statement stay on the stack for it.
-  struct Frame {
-    bool block;
-    int level;       // stack size when it began
-    bool labelled = false;
-  };
-  std::vector<Frame> frames_;
-
-  struct LoopEntry {
-    char kind;  // 'p' loop, 's' switch
-    std::string cont, brk;
-  };
-  std::vector<LoopEntry> loops_;
-
-  struct SwitchEntry {
-    int enum_type = 0;
-    std::set<long long> values;      // numeric case values
-    std::set<int> constants;         // enumeration constants used
-    bool default_seen = false;
-    int label_depth = 0;
-    bool break_pending = false;
-    int depth = 0;                   // frame depth of its top-level statements
-  };
-  std::vector<SwitchEntry> switches_;
-  // The heads a for statement has: bit 1 init, 2 condition, 4 step.
-  std::vector<int> for_heads_;
+  // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
-  // Pops the top `n` entries and pushes one whose code is `text`.
-  void replace_top(int n, std::string text, int line);
   bool exception_number(const Token& number, int& value);
 
-  // A pending label of a labelled statement, composed when it is left.
-  struct PendingLabel {
-    std::string text;
-  };
-  std::vector<PendingLabel> labels_pending_;
+  const Options& options_;
+  Diagnostics& diag_;
+  Workspace& ws_;
+  Declarations& decl_;
+  SymbolTable& symbols_;
+  const Names& names_;
 
-  struct LabelInfo {
-    int line = 0;
-    int defined = 0;
-    int referenced = 0;
-  };
-  std::map<std::string, LabelInfo> statement_labels_;
-  // The function's handler numbers in the order of the body, and whether
-  // each has been translated.
-  std::vector<int> handler_order_;
-  std::map<int, bool> handlers_;
-  // Declared constant count of each enumeration met by a switch.
-  std::map<int, int> enum_counts_;
+  std::vector<Operand> stack_;
+  std::unique_ptr<FunctionContext> fn_;
 
-  int label_counter_ = 0;   // false and true labels
+  // Label counters run over the whole file.
+  int label_counter_ = 0;  // false and true labels
   std::map<int, int> label_alias_;
   int cont_counter_ = 0;
   int skip_counter_ = 0;
   int string_counter_ = 0;
-
-  // Temporaries: the next number of each type within a statement, and the
-  // highest declared in the function.
-  std::map<int, int> temp_next_;
-  std::map<int, int> temp_declared_;
-
-  // The type name of the last cast or sizeof, typedefs resolved.
-  void resolve_type_name();
-  void become_jump_form(Entry& e, int false_label, int true_label, bool reported);
-  int type_name_bits_ = 0;
-  int type_name_sym_ = 0;
 };
 
 }  // namespace ycc

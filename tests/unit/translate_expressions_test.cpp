@@ -55,14 +55,14 @@ TEST(TranslateTypes, ResultTypeOfBinaryArithmetic) {
 
 struct ClassRow {
   const char* what;
-  Entry entry;
+  Operand entry;
   int cls;
   bool refuse_aggregates;
   const char* message;  // "" when the operand passes
 };
 
-Entry make(int bits, char kind = 0, int dims = 0, bool casted = false, bool empty = false) {
-  Entry e;
+Operand make(int bits, char kind = 0, int dims = 0, bool casted = false, bool empty = false) {
+  Operand e;
   e.type_bits = bits;
   e.kind = kind;
   e.dims = dims;
@@ -99,14 +99,8 @@ TEST(TranslateClasses, EveryClassAndMessage) {
       {"structure aggregate", make(0, 's'), 1, true, ""},
       {"int aggregate", make(4), 1, true, "the required operand type is aggregate"},
   };
-  Options options;
-  std::ostringstream err;
-  Diagnostics diag(err, options);
-  TokenBuffer tokens;
-  Workspace ws(options, diag);
-  Translator t(options, diag, tokens, ws, "zz");
   for (const ClassRow& r : rows)
-    EXPECT_EQ(t.class_message(r.entry, r.cls, r.refuse_aggregates), r.message) << r.what;
+    EXPECT_EQ(class_message(r.entry, r.cls, r.refuse_aggregates), r.message) << r.what;
 }
 
 // ---- Values and code ---------------------------------------------------------------------------

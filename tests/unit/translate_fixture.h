@@ -12,18 +12,18 @@
 #include "front/parser.h"
 #include "front/syntax_errors.h"
 #include "output/workspace.h"
-#include "translate/translator.h"
+#include "compile/file_actions.h"
 
 namespace ycc::testing {
 
-class BodyRecorder : public Translator {
+class BodyRecorder : public FileActions {
  public:
   BodyRecorder(const Options& o, Diagnostics& d, const TokenBuffer& t, Workspace& ws, std::FILE* f,
                const std::string& prefix)
-      : Translator(o, d, t, ws, prefix), file_(f) {}
+      : FileActions(o, d, t, ws, prefix), ws_(ws), file_(f) {}
 
   void open_function_body(const Token& lbrace, const FunctionLabels& labels) override {
-    Translator::open_function_body(lbrace, labels);
+    FileActions::open_function_body(lbrace, labels);
     std::fflush(file_);
     start_ = std::ftell(file_);
     locals_at_open_ = ws_.wd_locals.size();
@@ -38,13 +38,14 @@ class BodyRecorder : public Translator {
     std::fseek(file_, 0, SEEK_END);
     bodies.push_back(text);
     locals.push_back(ws_.wd_locals.substr(std::min(locals_at_open_, ws_.wd_locals.size())));
-    Translator::close_function_body(rbrace);
+    FileActions::close_function_body(rbrace);
   }
 
   std::vector<std::string> bodies;
   std::vector<std::string> locals;  // what the body added to the locals slot
 
  private:
+  Workspace& ws_;
   std::FILE* file_;
   long start_ = 0;
   size_t locals_at_open_ = 0;
@@ -77,7 +78,7 @@ struct TranslateRun {
       }
       bodies = t.bodies;
       locals = t.locals;
-      stack_left = t.stack_size();
+      stack_left = t.translator().stack_size();
       diag.flush();
     }
     std::fclose(f);

@@ -275,7 +275,8 @@ TEST(WorkspaceWriter, IndentationFallsBackPastHalfTheWidth) {
 TEST(WorkspaceWriter, DestinationsInOrder) {
   Fixture f;
   Workspace& ws = f.make();
-  int frag = ws.new_fragment();
+  std::string fragment;
+  ws.fragment_sink = [&] { return &fragment; };
   ws.to_fragment = true;
   ws.put_text('n', "a");
   ws.put_text('y', "b");
@@ -285,8 +286,7 @@ TEST(WorkspaceWriter, DestinationsInOrder) {
   ws.put_text('n', "fn");
   ws.to_deferred = ws.to_function_exit = ws.to_fragment = false;
   ws.put_text('n', "file");
-  EXPECT_EQ(ws.fragment_text(frag), "a\nb");
-  EXPECT_EQ(ws.wtext_has_user(), 'n');
+  EXPECT_EQ(fragment, "a\nb");
   EXPECT_EQ(ws.function_exit, "exit;");
   EXPECT_EQ(ws.deferred, "fn");
   EXPECT_EQ(f.work_text(), "file");
@@ -318,23 +318,8 @@ std::string check_text(const std::function<void()>& fn) {
 TEST(WorkspaceChecks, InternalChecksNameTheCondition) {
   Fixture f;
   Workspace& ws = f.make();
-  ws.new_fragment();
-  ws.new_fragment();
   EXPECT_EQ(check_text([&] { ws.put_text('x', "t"); }),
             "Assertion failed: newline_bgn == 'y' || newline_bgn == 'n', file yc");
-  EXPECT_EQ(check_text([&] { ws.release_work_text(0); }),
-            "Assertion failed: wtext_has_user == 'y' && code[sub].text == wtext, file yc");
-  ws.take_work_text(0);
-  EXPECT_EQ(check_text([&] { ws.take_work_text(1); }), "Assertion failed: wtext_has_user == 'n', file yc");
-  EXPECT_EQ(check_text([&] { ws.release_work_text(1); }),
-            "Assertion failed: wtext_has_user == 'y' && code[sub].text == wtext, file yc");
-  EXPECT_EQ(check_text([&] { ws.truncate_fragments(3); }),
-            "Assertion failed: new_cnt >= 0 && new_cnt <= code_cnt, file yc");
-  EXPECT_EQ(check_text([&] { ws.truncate_fragments(-1); }),
-            "Assertion failed: new_cnt >= 0 && new_cnt <= code_cnt, file yc");
-  ws.truncate_fragments(0);
-  EXPECT_EQ(ws.code_cnt(), 0);
-  EXPECT_EQ(ws.wtext_has_user(), 'n');
 }
 
 TEST(WorkspaceChecks, HalfmegsMustBePositive) {
@@ -344,20 +329,6 @@ TEST(WorkspaceChecks, HalfmegsMustBePositive) {
   Diagnostics d(err, o);
   EXPECT_EQ(check_text([&] { Workspace w(o, d); }),
             "Assertion failed: code_workspace_halfmegs > 0, file yc");
-}
-
-TEST(WorkspaceChecks, TakeAndReleaseMoveTheText) {
-  Fixture f;
-  Workspace& ws = f.make();
-  int n = ws.new_fragment();
-  ws.code[0].text = "abc";
-  ws.take_work_text(n);
-  EXPECT_EQ(ws.wtext, "abc");
-  EXPECT_EQ(&ws.fragment_text(n), &ws.wtext);
-  ws.wtext += "def";
-  ws.release_work_text(n);
-  EXPECT_EQ(ws.code[0].text, "abcdef");
-  EXPECT_EQ(ws.wtext_has_user(), 'n');
 }
 
 TEST(WorkspaceChecks, UnopenableOutputIsFatal) {
@@ -379,12 +350,10 @@ TEST(WorkspaceReset, EverythingBackToEmpty) {
   ws.start_output();
   ws.start_function();
   ws.indent_in();
-  ws.new_fragment();
   ws.note_dimensions(3);
   ws.wd_locals = "x";
   ws.reset();
   EXPECT_EQ(ws.merge_count(), 0);
-  EXPECT_EQ(ws.code_cnt(), 0);
   EXPECT_EQ(ws.indentation(), 0);
   EXPECT_FALSE(ws.output_started());
   EXPECT_TRUE(ws.nothing_emitted());

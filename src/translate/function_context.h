@@ -1,0 +1,66 @@
+// What the translation keeps for the function being translated. It is made
+// when a function body opens and dropped when it closes, so nothing of one
+// function reaches the next.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace ycc {
+
+struct FunctionContext {
+  // Statement frames: block items flush into the enclosing fragment, the
+  // parts of a structured statement stay on the stack for it.
+  struct Frame {
+    bool block;
+    int level;  // stack size when it began
+    bool labelled = false;
+  };
+  std::vector<Frame> frames;
+
+  // break and continue targets.
+  struct Loop {
+    char kind;  // 'p' loop, 's' switch
+    std::string cont, brk;
+  };
+  std::vector<Loop> loops;
+
+  struct Switch {
+    int enum_type = 0;
+    std::set<long long> values;  // numeric case values
+    std::set<int> constants;     // enumeration constants used
+    bool default_seen = false;
+    int label_depth = 0;
+    bool break_pending = false;
+    int depth = 0;               // frame depth of its top-level statements
+  };
+  std::vector<Switch> switches;
+
+  // The heads a for statement has: bit 1 init, 2 condition, 4 step.
+  std::vector<int> for_heads;
+
+  // The label of each labelled statement being read, composed when it is left.
+  std::vector<std::string> labels_pending;
+
+  struct Label {
+    int line = 0;
+    int defined = 0;
+    int referenced = 0;
+  };
+  std::map<std::string, Label> statement_labels;
+
+  // The handler numbers in the order of the body, and whether each has been
+  // translated.
+  std::vector<int> handler_order;
+  std::map<int, bool> handlers;
+  bool handles(int n) const { return handlers.count(n) != 0; }
+
+  // Temporaries: the next number of each type within a statement, and the
+  // highest declared in the function.
+  std::map<int, int> temp_next;
+  std::map<int, int> temp_declared;
+};
+
+}  // namespace ycc
