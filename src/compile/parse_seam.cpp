@@ -19,6 +19,7 @@ void run_start_rule(ParseContext& ctx) {
     }
   } dump{ctx, actions};
   parse_translation_unit(ctx.tokens.tokens, actions, ctx.syntax);
+  actions.translator().finish_file(ctx.tokens.tokens.back().line);
   if (actions.declarations().declared_anything()) ctx.workspace.note_emitted();
 }
 

@@ -185,6 +185,7 @@ void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, 
   s.name_class = 'g';
   s.name_is = tag_kind_char(kind);
   s.storage = d.storage;
+  s.local = symbols_.depth() > 0;
   if (!tags_.empty()) s.owner = tags_.back();  // nested tags know their container
   if (tag)
     s.name = SymbolTable::stored_name(tag->text);

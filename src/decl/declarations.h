@@ -35,7 +35,10 @@ class Declarations {
                const Names& names);
 
   SymbolTable& symbols() { return symbols_; }
-  const Emitter& emitter() const { return emit_; }
+  Emitter& emitter() { return emit_; }
+  const TokenBuffer& tokens() const { return tokens_; }
+  // The function definition whose body is being compiled (0 outside one).
+  int current_function() const { return function_; }
   // Whether any declaration or function was complete without errors.
   bool declared_anything() const { return declared_anything_; }
 

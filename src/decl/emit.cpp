@@ -1,5 +1,7 @@
 #include "decl/emit.h"
 
+#include <algorithm>
+
 #include "common/text.h"
 #include "decl/library_table.h"
 #include "decl/type_keywords.h"
@@ -48,6 +50,58 @@ std::string Emitter::parameter(int sub, bool with_name) const {
   if (t && symbols_[t].name_is == 's') return "struct " + tag_name(t) + " *" + name;
   if (t && symbols_[t].name_is == 'n') return fun_pointer(t, name);
   return join(element_type(sub));
+}
+
+std::string Emitter::c_type(int sub) const {
+  int t = symbols_.resolve_type(symbols_[sub].type_sym);
+  if (t && symbols_[t].name_is == 'n') return fun_pointer(t, "");
+  return element_type(sub);
+}
+
+std::string Emitter::pointer_type(int sub) const {
+  int t = symbols_.resolve_type(symbols_[sub].type_sym);
+  if (t && symbols_[t].name_is == 'n') return fun_pointer(t, "*");
+  return element_type(sub) + " *";
+}
+
+std::string Emitter::file_level_type(int sub, std::vector<int>& copied, std::string& type) {
+  hoisting_ = true;
+  type = c_type(sub);
+  std::string text;
+  int root = symbols_.resolve_type(symbols_[sub].type_sym);
+  // Post-order over the local tags the element type reaches through its members.
+  std::vector<std::pair<int, bool>> work;
+  if (root && symbols_[root].local) work.push_back({root, false});
+  while (!work.empty()) {
+    auto [tag, expanded] = work.back();
+    work.pop_back();
+    int serial = symbols_[tag].serial;
+    if (std::find(copied.begin(), copied.end(), serial) != copied.end()) continue;
+    if (!expanded) {
+      work.push_back({tag, true});
+      if (symbols_[tag].name_is == 's')
+        for (int m = tag + 1; m < body_end(tag); ++m) {
+          int t = symbols_.resolve_type(symbols_[m].type_sym);
+          if (symbols_[m].owner == tag && t && symbols_[t].local) work.push_back({t, false});
+        }
+      continue;
+    }
+    copied.push_back(serial);
+    std::string saved;
+    saved.swap(ws_.wd_locals);
+    bool was_into = into_locals_;
+    int was_indent = locals_indent_;
+    into_locals_ = true;
+    locals_indent_ = 0;
+    if (symbols_[tag].name_is == 's') emit_struct(tag);
+    if (symbols_[tag].name_is == 'e') emit_enum(tag);
+    text += ws_.wd_locals;
+    ws_.wd_locals.swap(saved);
+    into_locals_ = was_into;
+    locals_indent_ = was_indent;
+  }
+  hoisting_ = false;
+  return text;
 }
 
 std::string Emitter::variable_text(int sub, bool member, bool local) const {

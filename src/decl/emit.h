@@ -19,7 +19,10 @@ class Emitter {
       : symbols_(symbols), ws_(ws), names_(names), walker_(symbols, names) {}
 
   // The C name of a structure, enumeration or fun tag, anonymous ones included.
-  std::string tag_name(int sub) const { return c_tag_name(symbols_[sub], names_); }
+  std::string tag_name(int sub) const {
+    const Symbol& s = symbols_[sub];
+    return hoisting_ && s.local ? names_.anonymous_tag(s.serial) : c_tag_name(s, names_);
+  }
   // The C name of a function: library functions and main carry "_yc__".
   std::string function_name(int sub) const;
   // The C type words of a variable's element type ("unsigned int", "struct s").
@@ -28,6 +31,18 @@ class Emitter {
   std::string fun_pointer(int fun, const std::string& name) const;
   // A parameter as written in a heading or a fun-type list.
   std::string parameter(int sub, bool with_name) const;
+  // The C type of an element of `sub` ("int", "struct s", a fun type's
+  // "void (*) (...)"), and of a pointer to one ("int *", "void (**) (...)").
+  std::string c_type(int sub) const;
+  std::string pointer_type(int sub) const;
+
+  // Code generated outside every function (resize functions) needs the
+  // element type of a varspace at file level. A structure or enumeration
+  // declared inside a body is given there a copy of its definition under its
+  // generated name ("zz12_tag"), after the copies of the local tags its
+  // members use. Returns the definitions not yet copied (keys in `copied`),
+  // and sets `type` to the element type as named at file level.
+  std::string file_level_type(int sub, std::vector<int>& copied, std::string& type);
 
   // The declarations of one complete external declaration, from `first` on.
   void external_declaration(int first);
@@ -66,6 +81,7 @@ class Emitter {
   SpaceWalker walker_;
   int walk_counters_ = 0;      // loop counters declared in the current function
   bool into_locals_ = false;
+  bool hoisting_ = false;  // local tags take their generated names
   int locals_indent_ = 0;
 };
 

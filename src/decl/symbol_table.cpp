@@ -76,6 +76,14 @@ int SymbolTable::type_bits_of(int sub) const {
   return s.type_sym && (*this)[s.type_sym].name_is == 't' ? (*this)[s.type_sym].type_bits : s.type_bits;
 }
 
+int SymbolTable::find_member(int tag, std::string_view name) const {
+  auto list = by_name_.find(stored_name(name));
+  if (list == by_name_.end()) return 0;
+  for (int sub : list->second)
+    if ((*this)[sub].name_class == 'c' && (*this)[sub].owner == tag) return sub;
+  return 0;
+}
+
 int SymbolTable::find_other(char name_class, std::string_view name, int except) const {
   auto list = by_name_.find(stored_name(name));
   if (list == by_name_.end()) return 0;

@@ -58,6 +58,7 @@ struct Symbol {
   char contains_fun_ptr = 'n';
   char complete = 'y';      // 'n' for a tag named ahead of its body
   bool emitted = false;     // a tag whose C definition has been written
+  bool local = false;       // a tag declared inside a function body
   int enum_count = 0;       // an enumeration's constants
   int ref_count = 0;
   int resize_count = 0;
@@ -109,6 +110,8 @@ class SymbolTable {
   int type_bits_of(int sub) const;
   // The newest other entry of the class and name anywhere in the table, or 0.
   int find_other(char name_class, std::string_view name, int except) const;
+  // The member `name` of the structure `tag`, or 0.
+  int find_member(int tag, std::string_view name) const;
   // An older tag ('s', 'e' or 'n') of that name, below `before`, or 0.
   int find_tag(char name_is, std::string_view name, int before) const;
 

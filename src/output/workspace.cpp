@@ -180,54 +180,74 @@ bool Workspace::pop_block() {
   return opened;
 }
 
+bool RegionFilter::open(Region& r, char letter) {
+  r = Region{};
+  if (letter == 'a' || letter == 'm' || letter == 'd') {
+    r.kind = Kind::bounds;
+    r.keep_part1 = letter == 'd';
+  } else if (letter == 'e' || letter == 'n' || letter == 'g') {
+    r.kind = Kind::occurs;
+    r.keep_lines = letter == 'g';
+  } else if (letter == 'h' || letter == 'o' || letter == 'k') {
+    r.kind = Kind::third;
+    r.keep_part1 = letter == 'k';
+  }
+  return r.kind != Kind::none;
+}
+
 bool RegionFilter::keep(std::string_view line) {
   bool control = line.starts_with("##");
   char letter = line.size() > 2 ? line[2] : '\0';
-  switch (kind_) {
+  switch (outer_.kind) {
     case Kind::none:
       if (!control) return true;
-      part2_ = false;
-      if (letter == 'a' || letter == 'm' || letter == 'd') {
-        kind_ = Kind::bounds;
-        keep_part1_ = letter == 'd';
-      } else if (letter == 'e' || letter == 'n' || letter == 'g') {
-        kind_ = Kind::occurs;
-        keep_lines_ = letter == 'g';
-      } else if (letter == 'h' || letter == 'o' || letter == 'k') {
-        kind_ = Kind::third;
-        keep_part1_ = letter == 'k';
-      }
+      open(outer_, letter);
       return false;
     case Kind::bounds:
+      if (inner_.kind == Kind::third) {
+        if (control && letter == 'i') {
+          inner_.part2 = true;
+          return false;
+        }
+        if (control && letter == 'j') {
+          inner_.kind = Kind::none;
+          return false;
+        }
+        return keeps(outer_) && keeps(inner_);
+      }
       if (control && letter == 'b') {
         // Without bounds checks the rest is ordinary text and "##c" unknown.
         if (bounds_checks_)
-          part2_ = true;
+          outer_.part2 = true;
         else
-          kind_ = Kind::none;
+          outer_.kind = Kind::none;
         return false;
       }
       if (control && letter == 'c') {
-        kind_ = Kind::none;
+        outer_.kind = Kind::none;
         return false;
       }
-      return part2_ != keep_part1_;
+      if (control && (letter == 'h' || letter == 'o' || letter == 'k')) {
+        open(inner_, letter);
+        return false;
+      }
+      return keeps(outer_);
     case Kind::occurs:
       if (control && letter == 'f') {
-        kind_ = Kind::none;
+        outer_.kind = Kind::none;
         return false;
       }
-      return keep_lines_;
+      return keeps(outer_);
     case Kind::third:
       if (control && letter == 'i') {
-        part2_ = true;
+        outer_.part2 = true;
         return false;
       }
       if (control && letter == 'j') {
-        kind_ = Kind::none;
+        outer_.kind = Kind::none;
         return false;
       }
-      return part2_ != keep_part1_;
+      return keeps(outer_);
   }
   return true;
 }

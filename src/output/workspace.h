@@ -145,6 +145,10 @@ class Workspace {
 
 // The conditional-region filter of the assembly: decides line by line which
 // lines of the work text reach the output. Control lines start with "##".
+// One region is open at a time, except that the read checks inside a
+// bounds region may hold a third-kind region of their own (the limit and
+// occurs tests of a one-subscript reference): its lines are kept only when
+// both regions keep them, and its control lines are never written.
 class RegionFilter {
  public:
   explicit RegionFilter(bool bounds_checks) : bounds_checks_(bounds_checks) {}
@@ -153,10 +157,20 @@ class RegionFilter {
 
  private:
   enum class Kind { none, bounds, occurs, third };
-  Kind kind_ = Kind::none;
-  bool part2_ = false;
-  bool keep_part1_ = false;  // bounds and third kinds: which part is kept
-  bool keep_lines_ = false;  // occurs kind
+  struct Region {
+    Kind kind = Kind::none;
+    bool part2 = false;
+    bool keep_part1 = false;  // bounds and third kinds: which part is kept
+    bool keep_lines = false;  // occurs kind
+  };
+  // Opens a region for the letter; false when the letter opens none.
+  static bool open(Region& r, char letter);
+  // Whether a text line inside an open region is kept.
+  static bool keeps(const Region& r) {
+    return r.kind == Kind::occurs ? r.keep_lines : r.part2 != r.keep_part1;
+  }
+  Region outer_;
+  Region inner_;  // a third-kind region inside a bounds region
   bool bounds_checks_;
 };
 

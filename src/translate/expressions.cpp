@@ -115,53 +115,10 @@ void Translator::constant(const Token& t) {
 void Translator::parenthesized(const Token& lparen) {
   ensure_operands(1, lparen.line);
   Operand& e = top();
+  // A parenthesised reference is a value: (int)(buf[i]) casts the character.
+  e.ref.reset();
   if (e.jump_form() || e.value.empty()) return;
   e.value = "(" + e.value + ")";
-}
-
-void Translator::identifier(const Token& name) {
-  Operand& e = push_operand(name.line);
-  std::string n(name.text);
-  int sub = symbols_.find_other('o', n, 0);
-  if (!sub) {
-    e.value = n;
-    e.empty = true;
-    report(e, strf("'%s' is an undeclared identifier", n.c_str()));
-    return;
-  }
-  fill_from_symbol(e, sub);
-}
-
-void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
-  if (kind == SubscriptKind::Expression) {
-    ensure_operands(2, lbracket.line);
-    pop_operand();
-  }
-  ensure_operands(1, lbracket.line);
-  if (!top().reported) report(top(), strf(not_yet, "[]"));
-}
-
-void Translator::member(const Token& name) {
-  ensure_operands(1, name.line);
-  if (!top().reported) report(top(), strf(not_yet, "."));
-}
-
-void Translator::occurs(const Token& t) {
-  ensure_operands(1, t.line);
-  if (!top().reported) report(top(), strf(not_yet, ".occurs"));
-}
-
-void Translator::limit(const Token& t) {
-  ensure_operands(1, t.line);
-  if (!top().reported) report(top(), strf(not_yet, ".limit"));
-}
-
-void Translator::end_space_reference(const Token&) {}
-
-void Translator::added_length(const Token& t) {
-  Operand& e = push_operand(t.line);
-  e.empty = true;
-  report(e, strf(not_yet, "added_length"));
 }
 
 void Translator::free_reference(const Token& keyword) {
@@ -196,9 +153,11 @@ void Translator::syntax_error_operand(const Token& at) {
 void Translator::cast(const Token& lparen) {
   ensure_operands(1, lparen.line);
   int i = top_index();
+  TypeName type = decl_.pop_type_name();
+  if (!type.bad && character_space_cast(i, type)) return;
   to_value(i);
   Operand& e = operand(i);
-  TypeName type = decl_.pop_type_name();
+  e.ref.reset();
   if (type.bad) {
     e.reported = true;
     return;
@@ -240,13 +199,6 @@ void Translator::sizeof_type(const Token& keyword) {
     e.value = "sizeof(" + type_words(type.type_bits) + ")";
 }
 
-void Translator::sizeof_expr(const Token& keyword) {
-  ensure_operands(1, keyword.line);
-  Operand& e = top();
-  if (!e.reported) report(e, strf(not_yet, "sizeof"));
-  e.empty = true;
-}
-
 // ---- Operators ---------------------------------------------------------------------------
 
 void Translator::comma(const Token& op) {
@@ -258,6 +210,7 @@ void Translator::comma(const Token& op) {
   joined += std::move(right.code);
   right.code = std::move(joined);
   right.line = operand(left).line;
+  right.ref.reset();
   operand(left) = std::move(right);
 }
 
@@ -284,6 +237,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       return;
     }
     e.value = "!(" + e.value + ")";
+    e.ref.reset();
     e.type_bits = 4;
     e.kind = 0;
     e.type_sym = 0;
@@ -302,7 +256,24 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       report(e, strf("'%s' requires an l-value", o.c_str()));
       return;
     }
-    if (fix == Fix::Prefix) {
+    if (checked_store(e)) {
+      // The element is read into a temporary and the new value written back
+      // through the checks of a written element.
+      std::string t = temporary(e.type_bits);
+      const char* step = op.tok == T_PLUSPLUS ? "+" : "-";
+      Code write = written_copy(e);
+      e.code += strf("\n%s = %s;", t.c_str(), e.value.c_str());
+      e.code += std::move(write);
+      std::string store = strf("%s = %s %s 1", e.value.c_str(), t.c_str(), step);
+      if (fix == Fix::Prefix) {
+        e.value = store;
+        e.emit = true;
+      } else {
+        e.code += "\n" + store + ";";
+        e.value = t;
+        e.emit = false;
+      }
+    } else if (fix == Fix::Prefix) {
       e.value = o + e.value;
       e.emit = true;
     } else {
@@ -312,8 +283,10 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       e.emit = false;
     }
     e.lvalue = e.literal = false;
+    e.ref.reset();
     return;
   }
+  e.ref.reset();
   if (op.tok == T_ONESCOMPLEMENT) {
     if (!test_class(e, 7, true, "'%s' : the operand %s", o)) {
       e.reported = true;
@@ -403,6 +376,7 @@ void Translator::binary_operator(const Token& op) {
   bool literal = l.literal && r.literal;
   // Appended in place: a long chain of operators stays linear.
   l.value.append(" ").append(o).append(" ").append(r.value);
+  l.ref.reset();
   code(left) += std::move(pop_operand().code);
   Operand& e = operand(left);
   e.type_bits = bits;
@@ -447,6 +421,7 @@ void Translator::logical_and(const Token& op) {
 
 // The result of && and ||: an int known only through its two labels.
 void Translator::become_jump_form(Operand& e, int false_label, int true_label, bool reported) {
+  e.ref.reset();
   e.false_label = false_label;
   e.true_label = true_label;
   e.value.clear();
@@ -558,6 +533,7 @@ void Translator::conditional(const Token& question, const Token& colon) {
   joined += std::move(oc.code);
   joined += strf("\n%s = %s;\n%s:", t.c_str(), oc.value.c_str(), skip.c_str());
   Operand& e = operand(a);
+  e.ref.reset();
   e.value = t;
   e.type_bits = kind ? 0 : bits;
   e.kind = kind;
@@ -627,12 +603,38 @@ void Translator::assignment(AssignMode mode, const Token& op) {
       fail(strf("'%s' : the operands have incompatible types", o.c_str()));
     }
   }
-  l.value.append(" ").append(o).append(" ").append(r.value);
-  code(left) += std::move(pop_operand().code);
+  if (mode == AssignMode::Compound && checked_store(l)) {
+    // The element is read into a temporary, and the result written back
+    // through the checks of a written element.
+    std::string t = temporary(l.type_bits);
+    Code write = written_copy(l);
+    Operand rv = pop_operand();
+    Operand& e = operand(left);
+    e.code += std::move(rv.code);
+    e.code += strf("\n%s = %s;\n%s %s %s;", t.c_str(), e.value.c_str(), t.c_str(), o.c_str(), rv.value.c_str());
+    e.code += std::move(write);
+    e.value = e.value + " = " + t;
+  } else {
+    // The left operand's checks are those of a written element.
+    if (mode != AssignMode::Compound) l.code.rewrite_written();
+    l.value.append(" ").append(o).append(" ").append(r.value);
+    code(left) += std::move(pop_operand().code);
+  }
   Operand& e = operand(left);
   e.emit = true;
   e.lvalue = e.literal = false;
   e.reported = reported;
+  e.ref.reset();
+}
+
+bool Translator::checked_store(const Operand& e) const {
+  return e.ref && e.ref->finished && e.ref->subscripted > 0 && !e.code.empty();
+}
+
+Code Translator::written_copy(const Operand& e) const {
+  Code c = e.code.copy_from(e.ref->checks_at);
+  c.rewrite_written();
+  return c;
 }
 
 }  // namespace ycc

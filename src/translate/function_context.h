@@ -57,6 +57,12 @@ struct FunctionContext {
   std::map<int, bool> handlers;
   bool handles(int n) const { return handlers.count(n) != 0; }
 
+  // added_length and its companion are declared once, by the first
+  // character-space cast; using added_length needs an assignment to a cast.
+  bool added_length_declared = false;
+  int added_length_used = 0;  // line of the first use
+  bool cast_assigned = false;
+
   // Temporaries: the next number of each type within a statement, and the
   // highest declared in the function.
   std::map<int, int> temp_next;

@@ -58,6 +58,27 @@ bool Code::insert_at_x(std::string_view s) {
   return true;
 }
 
+void Code::truncate(size_t pos) {
+  if (pos >= text_.size()) return;
+  text_.resize(pos);
+  auto drop = [pos](std::vector<size_t>& v) {
+    while (!v.empty() && v.back() >= pos) v.pop_back();
+  };
+  drop(markers_);
+  drop(inserts_);
+}
+
+Code Code::copy_from(size_t pos) const {
+  Code c;
+  if (pos >= text_.size()) return c;
+  c.text_ = text_.substr(pos);
+  for (size_t p : markers_)
+    if (p >= pos) c.markers_.push_back(p - pos);
+  for (size_t p : inserts_)
+    if (p >= pos) c.inserts_.push_back(p - pos);
+  return c;
+}
+
 void Code::shift_from(size_t pos, std::ptrdiff_t delta) {
   for (size_t& p : markers_)
     if (p >= pos) p = static_cast<size_t>(static_cast<std::ptrdiff_t>(p) + delta);

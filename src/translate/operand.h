@@ -9,6 +9,7 @@
 // scanning the text; a marker is final once rewritten.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,10 @@ class Code {
     std::string replacement;
   };
   void apply(const std::vector<Edit>& edits);
+  // Drops the text from `pos` on, with its markers.
+  void truncate(size_t pos);
+  // A copy of the text from `pos` on, with its markers.
+  Code copy_from(size_t pos) const;
 
  private:
   void shift_from(size_t pos, std::ptrdiff_t delta);
@@ -67,6 +72,35 @@ class Code {
   std::string text_;
   std::vector<size_t> markers_;  // positions of the letters still to rewrite (a, e, h)
   std::vector<size_t> inserts_;  // positions of the letters of "##x" markers
+};
+
+// A space reference being read: identifier, then subscripts and members.
+// Subscripts are evaluated first (into temporaries when they need code);
+// the checks of every component follow, in order.
+struct Reference {
+  struct Subscript {
+    int kind;          // 0 expression, 1 [this], 2 empty
+    std::string text;  // C text of its value
+  };
+  int sym = 0;                  // the component: a variable or a member
+  std::string record;           // its meta record, when it is a space
+  std::string object;           // C text of the object, when it is not
+  std::string written;          // the reference as written so far
+  std::string written_name;     // ... up to the component's own subscripts
+  std::vector<Subscript> subs;  // the component's subscripts
+  Code checks;                  // the checks of the components so far
+  size_t last_checks = 0;       // where the last component's checks begin
+  bool pointer_record = false;  // the record is reached through a pointer
+  bool finished = false;        // end_space_reference was called
+  bool occurs_or_limit = false;
+  size_t checks_at = 0;         // where `checks` begins in the operand's code
+  int subscripted = 0;          // subscripts given, over all components
+  // The last subscripted component, kept for a character-space cast that
+  // makes its checks again.
+  int last_sym = 0;
+  std::string last_record;
+  std::string last_name;
+  std::vector<std::string> last_given;
 };
 
 // One entry of the expression/statement stack.
@@ -87,6 +121,8 @@ struct Operand {
   bool literal = false;   // a literal constant
   bool empty = false;     // no value at all
   int line = 0;
+  bool partial = false;   // a partially elided space
+  std::shared_ptr<Reference> ref;  // while it is a space reference
 
   bool jump_form() const { return false_label != 0 || true_label != 0; }
 };

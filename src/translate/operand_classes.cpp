@@ -3,21 +3,12 @@
 #include "common/text.h"
 #include "decl/functions.h"
 #include "decl/library_table.h"
+#include "translate/resize.h"
 #include "translate/translator.h"
 
 namespace ycc {
 
 namespace {
-
-// The size group of a type code: signedness and "int" spellings ignored.
-int size_group(int bits) {
-  if (bits & 32) return (bits & 8) ? 40 : 32;
-  if (bits & 16) return 16;
-  if (bits & 1) return 1;
-  if (bits & 2) return 2;
-  if (bits & 8) return 8;
-  return bits ? 4 : 0;
-}
 
 // The group of spellings of one type: plain and signed agree except for char.
 int spelling_group(int bits) {

@@ -49,7 +49,13 @@ void Translator::open_function_body(const Token&, const FunctionLabels& labels) 
   ws_.to_fragment = true;
 }
 
-void Translator::close_function_body(const Token&) {
+void Translator::close_function_body(const Token& rbrace) {
+  if (fn().added_length_used && !fn().cast_assigned && decl_.current_function())
+    diag_.error(rbrace.line,
+                strf("the reserved word 'added_length' was used as a variable in function '%s', but there was no "
+                     "assignment to a type-cast character space in that function which would cause "
+                     "'added_length' to have a value",
+                     symbols_[decl_.current_function()].name.c_str()));
   for (const auto& [name, info] : fn().statement_labels)
     if (info.defined > 0 && info.referenced == 0)
       diag_.warning(info.line, strf("statement label '%s' is unreferenced in this function", name.c_str()), 2);

@@ -6,7 +6,14 @@ namespace ycc {
 
 Translator::Translator(const Options& options, Diagnostics& diag, Workspace& ws, Declarations& decl,
                        const Names& names)
-    : options_(options), diag_(diag), ws_(ws), decl_(decl), symbols_(decl.symbols()), names_(names) {
+    : options_(options),
+      diag_(diag),
+      ws_(ws),
+      decl_(decl),
+      symbols_(decl.symbols()),
+      names_(names),
+      resize_(decl.symbols(), decl.emitter(), ws, diag, names),
+      support_(diag.files(), names) {
   // Declarations met in the middle of a statement (a nested block's brace and
   // locals) land in the code of the statement that encloses them.
   ws_.fragment_sink = [this]() -> std::string* {

@@ -22,6 +22,8 @@
 #include "output/workspace.h"
 #include "translate/function_context.h"
 #include "translate/operand.h"
+#include "translate/resize.h"
+#include "translate/support.h"
 
 namespace ycc {
 
@@ -96,6 +98,9 @@ class Translator {
   void call(const CallInfo& info);
   void syntax_error_operand(const Token& at);
 
+  // At the end of a file without errors: the support functions.
+  void finish_file(int last_line);
+
   // For tests: the stack depth.
   int stack_size() const { return static_cast<int>(stack_.size()); }
 
@@ -155,6 +160,32 @@ class Translator {
   void string_literal(Operand& e, const Token& t);
   void add_local(const std::string& text);
 
+  // ---- Space references (spaces.cpp) ----
+  void enter_component(Operand& e, Reference& r, int sym, const std::string& container);
+  // Checks and addresses the subscripts given to the current component.
+  void finish_component(Operand& e);
+  bool this_used(const Reference& r) const;
+  void check_this(Operand& e);
+  std::string subscript_source(const Token& lbracket) const;
+  std::string element_address(int sym, const std::string& record, const std::vector<std::string>& given);
+  // The read and write checks of subscripts `subs` of space `sym`, between
+  // their marker lines; `added` follows the last subscript of a cast.
+  Code component_checks(int sym, const std::string& record, const std::vector<std::string>& subs,
+                        const std::string& name, int line, const std::string& added);
+  std::string resize_call(int sym, const std::string& record, const std::vector<std::string>& subs,
+                          const std::string& added, int position);
+  // A failed memory request: reported unless /M, then exception 32000.
+  std::string memory_failure(int position, const char* indent);
+  void become_unsigned(Operand& e);
+  // Whether stores into `e` carry generated checks (a subscripted element),
+  // and a copy of its checks as those of a written element.
+  bool checked_store(const Operand& e) const;
+  Code written_copy(const Operand& e) const;
+  void declare_added_length();
+  // A cast applied directly to a reference of a character space: the
+  // operand becomes a casted character space. False for a value cast.
+  bool character_space_cast(int i, const TypeName& type);
+
   // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
   bool exception_number(const Token& number, int& value);
@@ -168,6 +199,8 @@ class Translator {
 
   std::vector<Operand> stack_;
   std::unique_ptr<FunctionContext> fn_;
+  ResizeFunctions resize_;
+  SupportFunctions support_;
 
   // Label counters run over the whole file.
   int label_counter_ = 0;  // false and true labels

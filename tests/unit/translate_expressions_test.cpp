@@ -291,10 +291,10 @@ TEST(TranslateExpressions, AFailedOperandIsReportedOnce) {
 
 TEST(TranslateExpressions, NotTranslatedYetFormsAreRefusedClearly) {
   TranslateRun t;
-  t.run(in_function("int v[3];\nr = v[1];\nr = v.occurs;\nf(a);"));
+  t.run(in_function("int v[3];\nint w[3];\nr = v[1];\nv = w;\nfree v;\nf(a);"));
   std::vector<std::string> m = t.message_list();
   ASSERT_EQ(m.size(), 3u);
-  EXPECT_NE(m[0].find("not translated yet"), std::string::npos);
+  for (const std::string& s : m) EXPECT_NE(s.find("not translated yet"), std::string::npos) << s;
   EXPECT_NE(m[2].find("'f' : "), std::string::npos);
 }
 

@@ -199,7 +199,13 @@ INSTANTIATE_TEST_SUITE_P(
         RegionCase{"unknown_letter_dropped", "\n##z\nA\n##\nB", true, "\nA\nB"},
         RegionCase{"other_letters_inside_are_text", "\n##g\n##c\n##b\n##f\nZ", true, "\n##c\n##b\nZ"},
         RegionCase{"other_letters_inside_dropped", "\n##d\nP1\n##b\n##f\nP2\n##c\nZ", true, "\nP1\nZ"},
-        RegionCase{"hash_text_not_control", "\n# define x\n#merge_not\nZ", true, "\n# define x\n#merge_not\nZ"}));
+        RegionCase{"hash_text_not_control", "\n# define x\n#merge_not\nZ", true, "\n# define x\n#merge_not\nZ"},
+        // A varspace's read checks hold the limit and occurs tests of a one-subscript reference.
+        RegionCase{"read_keeps_inner_part2", "\n##a\nG\n##b\n##h\nL\n##i\nO\n##j\n##c\nZ", true, "\nO\nZ"},
+        RegionCase{"write_drops_inner", "\n##d\nG\n##b\n##k\nL\n##i\nO\n##j\n##c\nZ", true, "\nG\nZ"},
+        RegionCase{"embedded_read_inner", "\n##m\nG\n##b\n##o\nL\n##i\nO\n##j\n##c\nZ", true, "\nO\nZ"},
+        RegionCase{"inner_other_letters_are_text", "\n##a\n##b\n##h\n##i\n##f\nO\n##j\n##c\nZ", true,
+                   "\n##f\nO\nZ"}));
 
 TEST(WorkspaceAssembly, MergeMarkerInDroppedPartIsStillReplaced) {
   Fixture f;
