@@ -122,9 +122,78 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
     t += element_type(sub) + " " + s.name;
   for (const Dimension& d : s.dims)
     t += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
-  (void)local;
-  if (!s.init_text.empty() && !member) t += " = " + s.init_text;
+  // A structure with fixed-space members gets their companions in its
+  // initializer when it has one or when it has static storage; a local
+  // without initializer sets them up in its init code.
+  std::string init = member ? std::string() : s.init_text;
+  int tag = symbols_.resolve_type(s.type_sym);
+  bool companions = tag && symbols_[tag].name_is == 's' && symbols_[tag].vf_flags[1] == 'y' && !member &&
+                    !is_extern && (!init.empty() || !local || (s.storage & STORAGE_STATIC));
+  if (companions) {
+    std::string designators = companion_designators(sub);
+    if (init.empty())
+      init = "{" + designators + "}";
+    else
+      init = init.substr(0, init.size() - 1) + ", " + designators + "}";
+  }
+  if (!init.empty()) t += " = " + init;
   return t + ";";
+}
+
+std::string Emitter::companion_designators(int sub) const {
+  const Symbol& v = symbols_[sub];
+  std::string out;
+  // Every element of a space of structures, then each structure's members.
+  struct Work {
+    int tag;
+    std::string path;  // designator path from the variable
+  };
+  std::vector<Work> work;
+  auto add_elements = [&](const std::vector<Dimension>& dims, int tag, const std::string& path) {
+    size_t total = 1;
+    for (const Dimension& d : dims) total *= static_cast<size_t>(d.size > 0 ? d.size : 1);
+    for (size_t flat = total; flat-- > 0;) {
+      std::string index;
+      size_t rest = flat;
+      for (size_t k = dims.size(); k-- > 0;) {
+        size_t size = static_cast<size_t>(dims[k].size > 0 ? dims[k].size : 1);
+        index = "[" + std::to_string(rest % size) + "]" + index;
+        rest /= size;
+      }
+      work.push_back({tag, path + index});
+    }
+  };
+  int root = symbols_.resolve_type(v.type_sym);
+  if (v.dim_count() > 0)
+    add_elements(v.dims, root, "");
+  else
+    work.push_back({root, ""});
+  while (!work.empty()) {
+    Work w = work.back();
+    work.pop_back();
+    for (int m : symbols_[w.tag].vf) {
+      const Symbol& ms = symbols_[m];
+      if (ms.is_var == 'y') continue;
+      std::string path = w.path + "." + ms.name;
+      int t = symbols_.resolve_type(ms.type_sym);
+      bool nests = t && symbols_[t].name_is == 's' && symbols_[t].vf_flags[1] == 'y';
+      if (ms.dim_count() == 0) {
+        if (nests) work.push_back({t, path});
+        continue;
+      }
+      if (nests) add_elements(ms.dims, t, path);
+      int occurs = 0;
+      for (const auto& [at, n] : v.member_occurs)
+        if (at == path) occurs = n;
+      if (!out.empty()) out += ", ";
+      out += strf("%s.%s = {(void *)%s%s", w.path.c_str(), names_.companion(ms.name).c_str(), v.name.c_str(),
+                  path.c_str());
+      if (ms.dim_count() == 1) out += strf(",%d", occurs);
+      for (const Dimension& d : ms.dims) out += strf(",%d", d.size);
+      out += "}";
+    }
+  }
+  return out;
 }
 
 std::string Emitter::companion_text(int sub, bool member, bool local, int initial_occurs) const {
@@ -353,16 +422,17 @@ namespace {
 // Initialisation of fresh contained varspaces, or their release at block end.
 class VarspaceWalk : public SpaceWalker::Visitor {
  public:
-  VarspaceWalk(const SymbolTable& symbols, bool free, std::function<std::string(int)> counter,
+  VarspaceWalk(const SymbolTable& symbols, bool free, bool set_companions, std::function<std::string(int)> counter,
                std::string& out)
-      : symbols_(symbols), free_(free), counter_(std::move(counter)), out_(out) {}
+      : symbols_(symbols), free_(free), set_companions_(set_companions), counter_(std::move(counter)), out_(out) {}
 
   // A fresh varspace has no elements yet.
   bool visit_elements(const SpaceWalker::Part& p) override { return free_ || symbols_[p.sym].is_var != 'y'; }
   std::string loop_bound(const SpaceWalker::Part& p, int k) override {
     const Symbol& s = symbols_[p.sym];
-    // A member's companion record is not set up with the structure: its sizes are the declared ones.
-    if (p.record.empty()) return strf("%d", s.dims[static_cast<size_t>(k - 1)].size);
+    // A fixed-space member's sizes are the declared ones (its companion may not be set up yet).
+    if (p.record.empty() || (s.is_var == 'n' && s.name_class == 'c'))
+      return strf("%d", s.dims[static_cast<size_t>(k - 1)].size);
     if (s.dim_count() == 1 && free_) return p.record + ".occurs";
     return strf("%s.limit%d", p.record.c_str(), k);
   }
@@ -382,10 +452,21 @@ class VarspaceWalk : public SpaceWalker::Visitor {
     if (dims == 1) out_ += strf("\n%s%s.occurs = 0;", in, path);
     for (int k = 1; k <= dims; ++k) out_ += strf("\n%s%s.limit%d = 0;", in, path, k);
   }
+  // A fixed-space member's companion points at the member, with its sizes.
+  void fixed_member(const SpaceWalker::Part& p) override {
+    if (free_ || !set_companions_) return;
+    std::string indent = walk_indent(p.depth);
+    const Symbol& s = symbols_[p.sym];
+    out_ += strf("\n%s%s.ptr = %s;", indent.c_str(), p.record.c_str(), p.object.c_str());
+    if (s.dim_count() == 1) out_ += strf("\n%s%s.occurs = 0;", indent.c_str(), p.record.c_str());
+    for (int k = 1; k <= s.dim_count(); ++k)
+      out_ += strf("\n%s%s.limit%d = %d;", indent.c_str(), p.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
+  }
 
  private:
   const SymbolTable& symbols_;
   bool free_;
+  bool set_companions_;
   std::function<std::string(int)> counter_;
   std::string& out_;
 };
@@ -396,7 +477,9 @@ class VarspaceWalk : public SpaceWalker::Visitor {
 // `meta` its meta record ("" for a plain structure).
 void Emitter::walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
                              std::string& out) {
-  VarspaceWalk visit(symbols_, free, [this](int depth) { return loop_counter(depth); }, out);
+  // An initialized variable had its companions set by its initializer.
+  bool set_companions = !free && symbols_[sub].init_text.empty();
+  VarspaceWalk visit(symbols_, free, set_companions, [this](int depth) { return loop_counter(depth); }, out);
   walker_.walk(sub, object, meta, 0, visit, out);
 }
 

@@ -57,6 +57,10 @@ class Emitter {
 
  private:
   std::string variable_text(int sub, bool member, bool local) const;
+  // Designators that set the companions of the fixed-space members of a
+  // structure variable (or of every element of a space of structures):
+  // ".f_zz = {(void *)x.f,0,4}, [1].zz_f = ...", for initializers.
+  std::string companion_designators(int sub) const;
   std::string companion_text(int sub, bool member, bool local, int initial_occurs) const;
   void emit_tag(int sub);
   // Where structure and enumeration definitions go: the code workspace, or

@@ -114,6 +114,7 @@ class InitWalk {
                 s.shown_name().c_str(), item.length + 1));
     out_ += item.c_text;
     if (sub == var_) count(level, item.length + 1);
+    if (level == 0 && s.dim_count() == 1) occurs_ = item.length;
     if (sub == var_ && level == 0 && s.dim_count() == 1) sy_[var_].initial_occurs = item.length;
   }
 
@@ -170,10 +171,14 @@ class InitWalk {
           continue;
         }
         if (n > 0) out_ += ", ";
+        size_t mark = path_.size();
+        path_ += "[" + std::to_string(n) + "]";
         walk(sub, level + 1, in_struct);
+        path_.resize(mark);
         ++n;
       }
       close(sub, in_struct);
+      if (n >= 0 && level == 0 && s.dim_count() == 1) occurs_ = n;
       if (n >= 0 && sub == var_) {
         count(level, n);
         if (level == 0 && s.dim_count() == 1) sy_[var_].initial_occurs = n;
@@ -193,9 +198,17 @@ class InitWalk {
         if (sy_[m].owner != t || sy_[m].name_class != 'c') continue;
         if (!first) out_ += ", ";
         first = false;
+        size_t mark = path_.size();
+        path_ += "." + sy_[m].name;
+        occurs_ = 0;
         walk(m, 0, t);
-        // The member's companion meta record follows it in the C structure.
-        if (sy_[m].dim_count() > 0 && sy_[m].is_var == 'n') out_ += ", {0}";
+        // The member's companion meta record follows it in the C structure;
+        // the designators after the list set it, with the elements given.
+        if (sy_[m].dim_count() > 0 && sy_[m].is_var == 'n') {
+          out_ += ", {0}";
+          if (sy_[m].dim_count() == 1 && occurs_ > 0) sy_[var_].member_occurs.emplace_back(path_, occurs_);
+        }
+        path_.resize(mark);
       }
       if (peek() && peek()->kind != '}') too_many(sub, in_struct);
       close(sub, in_struct);
@@ -328,6 +341,8 @@ class InitWalk {
   int var_;
   const std::vector<InitItem>& items_;
   size_t pos_ = 0;
+  std::string path_;  // the object being filled, from the variable: "[1].inner.f"
+  int occurs_ = 0;    // elements given to the last one-dimensional space
   bool failed_ = false;
   std::string out_;
   std::vector<int> counts_;

@@ -71,7 +71,13 @@ void SpaceWalker::walk(int root, const std::string& object, const std::string& r
           size_t base = path.size();
           path.append(1, '.').append(symbols_[m].name);
           int child_depth = f.depth + (f.stage == Stage::elements ? f.loops : 0);
-          stack.push_back({m, child_depth, base, symbols_[m].is_var == 'y' ? path : std::string(), Stage::start, 0, 0, {}});
+          // A member's record: a varspace is one, a fixed-space has its companion.
+          std::string record;
+          if (symbols_[m].is_var == 'y')
+            record = path;
+          else if (symbols_[m].dim_count() > 0)
+            record = path.substr(0, base) + "." + names_.companion(symbols_[m].name);
+          stack.push_back({m, child_depth, base, std::move(record), Stage::start, 0, 0, {}});
           break;
         }
         if (f.stage == Stage::members) {
@@ -87,6 +93,8 @@ void SpaceWalker::walk(int root, const std::string& object, const std::string& r
       case Stage::after_elements:
         if (s.is_var == 'y') {
           v.varspace({f.sym, path, f.record, f.depth});
+        } else if (s.dim_count() > 0 && stack.size() > 1) {
+          v.fixed_member({f.sym, path, f.record, f.depth});
         } else if (s.dim_count() == 0 && t) {
           f.stage = Stage::members;
           f.next = 0;

@@ -23,8 +23,7 @@ class SpaceWalker {
   struct Part {
     int sym;                 // the variable or member
     const std::string& object;  // C text designating it
-    const std::string& record;  // its meta record ("" for a plain structure,
-                                // or a fixed-space member whose sizes are the declared ones)
+    const std::string& record;  // its meta record ("" for a plain structure)
     int depth;               // loops open around it
   };
   // What to do at a part and around it; `out` receives the generated text.
@@ -38,6 +37,8 @@ class SpaceWalker {
     virtual std::string loop_counter(int depth) = 0;
     // A varspace reached by the walk, after its elements.
     virtual void varspace(const Part&) {}
+    // A fixed-space member (its record is its companion), after its elements.
+    virtual void fixed_member(const Part&) {}
   };
 
   SpaceWalker(const SymbolTable& symbols, const Names& names) : symbols_(symbols), names_(names) {}

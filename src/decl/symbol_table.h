@@ -66,6 +66,9 @@ struct Symbol {
   int initial_occurs = 0;   // elements an initializer filled (one-dimensional fixed-spaces)
   int line = 0;             // where the entry was declared
   std::string init_text;    // the C text of its initializer, when it has one
+  // Elements its initializer gave to one-dimensional fixed-space members,
+  // by path from the variable ("[1].inner.f").
+  std::vector<std::pair<std::string, int>> member_occurs;
 
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }

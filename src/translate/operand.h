@@ -91,6 +91,7 @@ struct Reference {
   Code checks;                  // the checks of the components so far
   size_t last_checks = 0;       // where the last component's checks begin
   bool pointer_record = false;  // the record is reached through a pointer
+  bool heap = false;            // the object lies in a varspace's block
   bool finished = false;        // end_space_reference was called
   bool occurs_or_limit = false;
   size_t checks_at = 0;         // where `checks` begins in the operand's code

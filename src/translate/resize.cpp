@@ -28,6 +28,10 @@ void ResizeFunctions::generate(int number, int sym) {
   std::string definitions = emitter_.file_level_type(sym, copied_tags_, type);
   const std::string pointer = type.starts_with("void (*) (") ? "void (**) (" + type.substr(10) : type + " *";
   const bool character = (symbols_.type_bits_of(sym) & 1) != 0 && symbols_.resolve_type(symbols_[sym].type_sym) == 0;
+  // Elements that hold spaces must start empty: their records are zeroed
+  // (an empty varspace, a companion whose occurs is 0).
+  int element = symbols_.resolve_type(symbols_[sym].type_sym);
+  const bool zeroed = element && symbols_[element].name_is == 's' && !symbols_[element].vf.empty();
   const char* u = "unsigned";
 
   std::string header = strf("\nstatic int %s(struct %s *meta, ", r.c_str(), meta.c_str());
@@ -40,6 +44,7 @@ void ResizeFunctions::generate(int number, int sym) {
   std::string& b = ws_.deferred;
   b += strf("\n%s new_size, lim_a, lim_b, lim_c;\nvoid *new_ptr;\nstruct %s old;%s", u, meta.c_str(),
             n > 1 ? "\nchar use_realloc = 'y';" : "");
+  if (zeroed) b += strf("\n%s old_size;", u);
   for (int k = 1; k <= n; ++k) b += strf("\n%s new_limit%d;", u, k);
   b += "\n";
 
@@ -67,16 +72,22 @@ void ResizeFunctions::generate(int number, int sym) {
     b += strf("\nif((new_size * new_limit%d) / new_size != new_limit%d)\n   return FALSE;\nnew_size *= new_limit%d;", k,
               k, k);
 
+  if (zeroed) {
+    b += strf("\n\nold_size = sizeof(%s);", type.c_str());
+    for (int k = 1; k <= n; ++k) b += strf("\nold_size *= meta->limit%d;", k);
+  }
   b += strf(
-      "\n\nif(meta->limit1 == 0) {\n   new_ptr = malloc(new_size);\n   if(new_ptr == NULL)\n      return FALSE;"
-      "\n   }\nelse%s\n   {\n   new_ptr = realloc(meta->ptr, new_size);\n   if(new_ptr == NULL)\n      return FALSE;"
+      "\n\nif(meta->limit1 == 0) {\n   new_ptr = malloc(new_size);\n   if(new_ptr == NULL)\n      return FALSE;%s"
+      "\n   }\nelse%s\n   {\n   new_ptr = realloc(meta->ptr, new_size);\n   if(new_ptr == NULL)\n      return FALSE;%s"
       "\n   }",
-      n > 1 ? " if(use_realloc == 'y')" : "");
+      zeroed ? "\n   memset(new_ptr, 0, new_size);" : "", n > 1 ? " if(use_realloc == 'y')" : "",
+      zeroed ? "\n   memset(((char *)new_ptr) + old_size, 0, new_size - old_size);" : "");
 
   if (n > 1) {
     // Growing a dimension other than the first moves every element: copy
     // them into a new block, row-major with the new limits as strides.
     b += "\nelse\n   {\n   new_ptr = malloc(new_size);\n   if(new_ptr == NULL)\n      return FALSE;";
+    if (zeroed) b += "\n   memset(new_ptr, 0, new_size);";
     auto declare = [&](const std::string& name) { ws_.resize_locals += strf("\n%s %s;", u, name.c_str()); };
     std::vector<std::string> fresh, old, counters;
     for (int k = 1; k < n; ++k) fresh.push_back(names_.generated("fcl", k));

@@ -62,6 +62,14 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
     else
       r.record = container.empty() ? names_.companion(s.name) : container + "." + names_.companion(s.name);
     e.value = r.record;
+    if (s.is_var == 'n' && !container.empty() && r.heap) {
+      // A structure in a varspace's block moves when the block grows, and
+      // fresh elements are zeroed: its fixed-space member's companion is
+      // pointed at the member, with its sizes, before it is used.
+      r.checks += strf("\n%s.ptr = %s;", r.record.c_str(), name.c_str());
+      for (int k = 1; k <= s.dim_count(); ++k)
+        r.checks += strf("\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
+    }
   } else {
     r.object = pointer && structure ? "(*" + s.name + ")" : name;
     e.value = r.object;
@@ -206,6 +214,7 @@ void Translator::finish_component(Operand& e) {
   r.object = e.value;
   r.record.clear();
   r.subs.clear();
+  if (s.is_var == 'y') r.heap = true;
 }
 
 std::string Translator::element_address(int sym, const std::string& record, const std::vector<std::string>& given) {
@@ -434,7 +443,9 @@ void Translator::limit(const Token& t) {
         report(e, strf("to access the limit value, the format is either '%s.limit' without the subscript, or "
                        "'%s[this].limit'",
                        w, w));
-    } else if (thises != 1 || given > 0) {
+    } else if (thises > 0 && (thises > 1 || given > 0)) {
+      check_this(e);
+    } else if (thises != 1) {
       report(e, strf("to access a limit value, use the '[this]' notation: correct usage is one occurrence of "
                      "'[this]' and the remaining subscripts of '%s' are empty '[]'",
                      w));

@@ -1,0 +1,158 @@
+
+#define FALSE 0
+#define TRUE 1
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+struct zz1D_meta {
+   void *ptr;
+   unsigned occurs;
+   unsigned limit1;
+};
+
+
+static int zzzz_resize1(struct zz1D_meta *meta, unsigned sub1, int resize_num1, int resize_pct1);
+static void zzzz_out_of_memory(int line);
+static void zzzz_bounds_exceeded(char *name, int line, int additional_args, ...);
+void f(void *zzzz_return_ptr[], int i, int x);
+
+void f(void *zzzz_return_ptr[], int i, int x)
+{
+
+int r;
+int zzzz_exception = 0;
+struct zz1D_meta v = {NULL};
+int fx[10];
+struct zz1D_meta zz_fx = {NULL,0,10};
+
+zz_fx.ptr = fx;
+if((signed)(i) < 0)
+   zzzz_bounds_exceeded("v", 8, 2, (unsigned)(i), (unsigned)(v.limit1));
+if((unsigned)(i) >= (v.limit1))
+   if(!zzzz_resize1(&(v), (unsigned)(i), 50, 15)) {
+      zzzz_out_of_memory(8);
+      zzzz_exception = 32000;
+      goto zzzz_finish;
+   }
+if((unsigned)(i) + 1 > (v.occurs))
+   (v.occurs) = (unsigned)(i) + 1;
+(*(((int *)(v.ptr)) + ((i)))) = x;
+if((signed)(i) < 0 || (unsigned)(i) >= (v.occurs))
+   zzzz_bounds_exceeded("v", 9, 2, (unsigned)(i), (unsigned)(v.occurs));
+r = (*(((int *)(v.ptr)) + ((i))));
+if((signed)(i) < 0 || (unsigned)(i) >= (zz_fx.occurs))
+   zzzz_bounds_exceeded("fx", 10, 2, (unsigned)(i), (unsigned)(zz_fx.occurs));
+r = (*(((int *)(zz_fx.ptr)) + ((i))));
+if((signed)(i) < 0 || (unsigned)(i) >= (zz_fx.limit1))
+   zzzz_bounds_exceeded("fx", 11, 2, (unsigned)(i), (unsigned)(zz_fx.limit1));
+if((unsigned)(i) + 1 > (zz_fx.occurs))
+   (zz_fx.occurs) = (unsigned)(i) + 1;
+(*(((int *)(zz_fx.ptr)) + ((i)))) = x;
+
+zzzz_finish: ;
+
+*((int *)(zzzz_return_ptr[1])) = r;
+if(v.limit1 > 0) {
+free(v.ptr);
+;}
+*((int *)(zzzz_return_ptr[0])) = zzzz_exception;
+}
+
+
+
+
+static int zzzz_resize1(struct zz1D_meta *meta, unsigned sub1, int resize_num1,
+  int resize_pct1)
+{
+
+unsigned new_size, lim_a, lim_b, lim_c;
+void *new_ptr;
+struct zz1D_meta old;
+unsigned new_limit1;
+
+if(sub1 >= meta->limit1) {
+   lim_a = sub1 + 1;
+   lim_b = resize_num1 + meta->limit1;
+   lim_c = resize_pct1 * (meta->limit1 / 100) + meta->limit1;
+   if(lim_a > lim_b)
+      {if(lim_a > lim_c)
+          new_limit1 = lim_a;
+       else
+          new_limit1 = lim_c;}
+   else if(lim_b > lim_c)
+       new_limit1 = lim_b;
+   else
+       new_limit1 = lim_c;
+   }
+else
+   new_limit1 = meta->limit1;
+
+new_size = sizeof(int);
+if((new_size * new_limit1) / new_size != new_limit1)
+   return FALSE;
+new_size *= new_limit1;
+
+if(meta->limit1 == 0) {
+   new_ptr = malloc(new_size);
+   if(new_ptr == NULL)
+      return FALSE;
+   }
+else
+   {
+   new_ptr = realloc(meta->ptr, new_size);
+   if(new_ptr == NULL)
+      return FALSE;
+   }
+
+meta->ptr = new_ptr;
+old = *meta;
+meta->limit1 = new_limit1;
+
+
+return TRUE;
+}
+
+
+static void zzzz_out_of_memory(int line)
+{
+static char files[1][5] = {"a.yc"};
+
+fprintf(stderr, "\nmemory request failed:\n");
+fprintf(stderr, "\n failed when requested memory,\n");
+fprintf(stderr, " at line %d in file %s\n\n",
+       line % 1000000, files[line / 1000000]);
+
+return;
+}
+
+
+#include <stdarg.h>
+
+
+static void zzzz_bounds_exceeded(char *name, int line, int additional_args,
+  ...)
+{
+int wrk1;
+unsigned sub, limit;
+static char files[1][5] = {"a.yc"};
+va_list ap;
+va_start(ap, additional_args);
+
+fprintf(stderr, "\nexecution aborted: space bounds exceeded:\n\n");
+fprintf(stderr, " executed this reference: %s", name);
+for(wrk1 = 0; wrk1 < additional_args / 2; ++wrk1)
+    {sub = va_arg(ap, unsigned);
+     fprintf(stderr, "[%u]", sub);}
+fprintf(stderr, ",\n at line %d in file %s,\n",
+        line % 1000000, files[line / 1000000]);
+fprintf(stderr, " but current limit%s ",
+        additional_args > 2 ? "s are" : " (or occurs) is");
+for(wrk1 = additional_args / 2; wrk1 < additional_args; ++wrk1)
+    {limit = va_arg(ap, unsigned);
+     fprintf(stderr, "[%u]", limit);}
+fprintf(stderr, "\n\n");
+
+va_end(ap);
+exit(1);
+}
+
