@@ -1,6 +1,7 @@
 #include "preprocessor/macros.h"
 
 #include "common/text.h"
+#include "diag/diagnostics.h"
 #include "preprocessor/text_scan.h"
 
 namespace ycc::pp {
@@ -163,9 +164,47 @@ std::string Expander::builtin_text(const Macro& m) const {
   return m.name;
 }
 
+namespace {
+
+size_t token_count(std::string_view s) {
+  size_t n = 0;
+  for (size_t i = skip_blanks(s, 0); i < s.size(); i = skip_blanks(s, i), ++n) {
+    char c = s[i];
+    if (c == '"' || c == '\'')
+      i = skip_quoted(s, i);
+    else if (is_ident_start(c))
+      i = skip_ident(s, i);
+    else if (is_digit(c))
+      i = skip_number(s, i);
+    else
+      ++i;
+  }
+  return n;
+}
+
+}  // namespace
+
+void Expander::too_long(const Macro& outermost) {
+  hooks_.report(strf("macro '%s' expansion: the expansion exceeds %zu tokens", outermost.name.c_str(),
+                     expansion_token_limit));
+  throw PpStop{4};
+}
+
 bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, std::string& out) {
+  tokens_ = 0;
+  try {
+    return build(m, args, out);
+  } catch (const Overflow&) {
+    out.clear();
+    too_long(m);
+  }
+}
+
+bool Expander::build(const Macro& m, const std::vector<std::string>& args, std::string& out) {
   std::string_view r = m.replacement;
   out.clear();
+  std::vector<size_t> arg_tokens;
+  for (const std::string& a : args) arg_tokens.push_back(token_count(a));
   auto param = [&](std::string_view name) -> int {
     auto it = m.param_index.find(name);
     return it == m.param_index.end() ? -1 : it->second;
@@ -175,18 +214,23 @@ bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, 
     char c = r[i];
     if (c == '"' || c == '\'') {
       size_t e = skip_quoted(r, i);
+      count(1);
       out.append(r.substr(i, e - i));
       i = e;
     } else if (is_ident_start(c)) {
       size_t e = skip_ident(r, i);
       int p = param(r.substr(i, e - i));
-      if (p >= 0)
+      if (p >= 0) {
+        count(arg_tokens[static_cast<size_t>(p)]);
         out += args[static_cast<size_t>(p)];
-      else
+      } else {
+        count(1);
         out.append(r.substr(i, e - i));
+      }
       i = e;
     } else if (is_digit(c)) {
       size_t e = skip_number(r, i);
+      count(1);
       out.append(r.substr(i, e - i));
       i = e;
     } else if (c == '#' && i + 1 < r.size() && r[i + 1] == '#') {
@@ -203,9 +247,11 @@ bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, 
             m.name.c_str()));
         return false;
       }
+      count(1);
       out += stringize(args[static_cast<size_t>(p)]);
       i = e;
     } else {
+      if (!is_blank(c)) count(1);
       out += c;
       ++i;
     }
@@ -262,72 +308,90 @@ std::string Expander::run(std::string_view text, Macro* owner) {
   if (owner) ++owner->expanding;
   std::vector<std::string> args;
   std::string subst;
-  while (!frames.empty()) {
-    Frame& f = frames.back();
-    std::string_view t = f.text;
-    size_t i = f.pos;
-    if (i >= t.size()) {
-      if (f.macro) --f.macro->expanding;
-      frames.pop_back();
-      continue;
-    }
-    char c = t[i];
-    if (c == '"' || c == '\'') {
-      size_t e = skip_quoted(t, i);
-      out.append(t.substr(i, e - i));
+  tokens_ = 0;
+  const Macro* outermost = owner;  // the use that the limit message names
+  try {
+    while (!frames.empty()) {
+      Frame& f = frames.back();
+      std::string_view t = f.text;
+      size_t i = f.pos;
+      if (i >= t.size()) {
+        if (f.macro) --f.macro->expanding;
+        frames.pop_back();
+        continue;
+      }
+      char c = t[i];
+      if (is_blank(c)) {
+        out += c;
+        f.pos = i + 1;
+        continue;
+      }
+      // A directive operand itself is source text: only what macros bring is counted.
+      bool counted = owner || frames.size() > 1;
+      if (counted) count(1);
+      if (c == '"' || c == '\'') {
+        size_t e = skip_quoted(t, i);
+        out.append(t.substr(i, e - i));
+        f.pos = e;
+        continue;
+      }
+      if (is_digit(c)) {
+        size_t e = skip_number(t, i);
+        out.append(t.substr(i, e - i));
+        f.pos = e;
+        continue;
+      }
+      if (!is_ident_start(c)) {
+        out += c;
+        f.pos = i + 1;
+        continue;
+      }
+      size_t e = skip_ident(t, i);
+      std::string_view name = t.substr(i, e - i);
       f.pos = e;
-      continue;
-    }
-    if (is_digit(c)) {
-      size_t e = skip_number(t, i);
-      out.append(t.substr(i, e - i));
-      f.pos = e;
-      continue;
-    }
-    if (!is_ident_start(c)) {
-      out += c;
-      f.pos = i + 1;
-      continue;
-    }
-    size_t e = skip_ident(t, i);
-    std::string_view name = t.substr(i, e - i);
-    f.pos = e;
-    Macro* m = table_.find(name);
-    if (!m || m->expanding || m->kind == Macro::Kind::defined) {
-      out.append(name);
-      continue;
-    }
-    if (m->kind != Macro::Kind::ordinary) {
-      out += builtin_text(*m);
-      continue;
-    }
-    if (!m->function_like) {
+      Macro* m = table_.find(name);
+      if (!m || m->expanding || m->kind == Macro::Kind::defined) {
+        out.append(name);
+        continue;
+      }
+      if (frames.size() == 1 && !owner) outermost = m;
+      if (m->kind != Macro::Kind::ordinary) {
+        out += builtin_text(*m);
+        continue;
+      }
+      if (!m->function_like) {
+        ++m->expanding;
+        frames.push_back({nullptr, m->replacement, 0, m});
+        continue;
+      }
+      if (f.no_calls) {
+        out.append(name);
+        continue;
+      }
+      size_t p = e;
+      ArgFault fault = text_args(*m, t, p, args);
+      if (fault != ArgFault::none) {
+        hooks_.report(arg_fault_text(fault, *m, false, "", 0));
+        if (fault == ArgFault::incomplete || fault == ArgFault::unbalanced) f.no_calls = true;
+        out.append(name);
+        continue;
+      }
+      if (counted) count(token_count(t.substr(e, p - e)));
+      if (!build(*m, args, subst)) {
+        out.append(name);
+        continue;
+      }
+      f.pos = p;
+      auto owned = std::make_unique<std::string>(std::move(subst));
+      subst = std::string();
+      std::string_view view = *owned;
       ++m->expanding;
-      frames.push_back({nullptr, m->replacement, 0, m});
-      continue;
+      frames.push_back({std::move(owned), view, 0, m});
     }
-    if (f.no_calls) {
-      out.append(name);
-      continue;
-    }
-    size_t p = e;
-    ArgFault fault = text_args(*m, t, p, args);
-    if (fault != ArgFault::none) {
-      hooks_.report(arg_fault_text(fault, *m, false, "", 0));
-      if (fault == ArgFault::incomplete || fault == ArgFault::unbalanced) f.no_calls = true;
-      out.append(name);
-      continue;
-    }
-    if (!substitute(*m, args, subst)) {
-      out.append(name);
-      continue;
-    }
-    f.pos = p;
-    auto owned = std::make_unique<std::string>(std::move(subst));
-    subst = std::string();
-    std::string_view view = *owned;
-    ++m->expanding;
-    frames.push_back({std::move(owned), view, 0, m});
+  } catch (const Overflow&) {
+    for (const Frame& f : frames)
+      if (f.macro) --f.macro->expanding;
+    too_long(*outermost);
   }
   return out;
 }

@@ -1,6 +1,7 @@
 // The macro table and the expansion of macro uses in a text.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -85,6 +86,12 @@ class ArgCollector {
 std::string arg_fault_text(ArgFault f, const Macro& m, bool across_lines, std::string_view found,
                            int arg_number);
 
+// Each of expand, rescan and substitute may scan or build at most this many
+// tokens; past it the expansion is reported and the file's preprocessing ends
+// (PpStop 4). A macro that doubles at each of thirty levels would otherwise
+// run until memory is exhausted.
+inline constexpr std::size_t expansion_token_limit = 10000000;
+
 class Expander {
  public:
   Expander(MacroTable& table, ExpandHooks hooks) : table_(table), hooks_(std::move(hooks)) {}
@@ -100,13 +107,23 @@ class Expander {
   std::string builtin_text(const Macro& m) const;
 
  private:
+  struct Overflow {};  // the token limit was passed
+
   std::string run(std::string_view text, Macro* owner);
+  bool build(const Macro& m, const std::vector<std::string>& args, std::string& out);
   // Reads the argument list of `m` that starts at `pos` (after the name).
   ArgFault text_args(const Macro& m, std::string_view text, size_t& pos,
                      std::vector<std::string>& args);
+  void count(std::size_t tokens) {
+    tokens_ += tokens;
+    if (tokens_ > expansion_token_limit) throw Overflow{};
+  }
+  // Reports the limit for the macro used in the text and ends the file's preprocessing.
+  [[noreturn]] void too_long(const Macro& outermost);
 
   MacroTable& table_;
   ExpandHooks hooks_;
+  std::size_t tokens_ = 0;
 };
 
 // The argument in double quotes; quote marks and backslashes inside its quoted
