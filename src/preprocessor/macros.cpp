@@ -184,20 +184,18 @@ size_t token_count(std::string_view s) {
 
 }  // namespace
 
-void Expander::too_long(const Macro& outermost) {
-  hooks_.report(strf("macro '%s' expansion: the expansion exceeds %zu tokens", outermost.name.c_str(),
+void Expander::count(size_t tokens) {
+  tokens_ += tokens;
+  if (tokens_ <= expansion_token_limit) return;
+  hooks_.report(strf("macro '%s' expansion: the expansion exceeds %zu tokens", outermost_->name.c_str(),
                      expansion_token_limit));
   throw PpStop{4};
 }
 
 bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, std::string& out) {
   tokens_ = 0;
-  try {
-    return build(m, args, out);
-  } catch (const Overflow&) {
-    out.clear();
-    too_long(m);
-  }
+  outermost_ = &m;
+  return build(m, args, out);
 }
 
 bool Expander::build(const Macro& m, const std::vector<std::string>& args, std::string& out) {
@@ -308,90 +306,92 @@ std::string Expander::run(std::string_view text, Macro* owner) {
   if (owner) ++owner->expanding;
   std::vector<std::string> args;
   std::string subst;
-  tokens_ = 0;
-  const Macro* outermost = owner;  // the use that the limit message names
-  try {
-    while (!frames.empty()) {
-      Frame& f = frames.back();
-      std::string_view t = f.text;
-      size_t i = f.pos;
-      if (i >= t.size()) {
+  // A stopped expansion leaves no macro marked as expanding.
+  struct Unmark {
+    std::vector<Frame>& frames;
+    ~Unmark() {
+      for (const Frame& f : frames)
         if (f.macro) --f.macro->expanding;
-        frames.pop_back();
-        continue;
-      }
-      char c = t[i];
-      if (is_blank(c)) {
-        out += c;
-        f.pos = i + 1;
-        continue;
-      }
-      // A directive operand itself is source text: only what macros bring is counted.
-      bool counted = owner || frames.size() > 1;
-      if (counted) count(1);
-      if (c == '"' || c == '\'') {
-        size_t e = skip_quoted(t, i);
-        out.append(t.substr(i, e - i));
-        f.pos = e;
-        continue;
-      }
-      if (is_digit(c)) {
-        size_t e = skip_number(t, i);
-        out.append(t.substr(i, e - i));
-        f.pos = e;
-        continue;
-      }
-      if (!is_ident_start(c)) {
-        out += c;
-        f.pos = i + 1;
-        continue;
-      }
-      size_t e = skip_ident(t, i);
-      std::string_view name = t.substr(i, e - i);
-      f.pos = e;
-      Macro* m = table_.find(name);
-      if (!m || m->expanding || m->kind == Macro::Kind::defined) {
-        out.append(name);
-        continue;
-      }
-      if (frames.size() == 1 && !owner) outermost = m;
-      if (m->kind != Macro::Kind::ordinary) {
-        out += builtin_text(*m);
-        continue;
-      }
-      if (!m->function_like) {
-        ++m->expanding;
-        frames.push_back({nullptr, m->replacement, 0, m});
-        continue;
-      }
-      if (f.no_calls) {
-        out.append(name);
-        continue;
-      }
-      size_t p = e;
-      ArgFault fault = text_args(*m, t, p, args);
-      if (fault != ArgFault::none) {
-        hooks_.report(arg_fault_text(fault, *m, false, "", 0));
-        if (fault == ArgFault::incomplete || fault == ArgFault::unbalanced) f.no_calls = true;
-        out.append(name);
-        continue;
-      }
-      if (counted) count(token_count(t.substr(e, p - e)));
-      if (!build(*m, args, subst)) {
-        out.append(name);
-        continue;
-      }
-      f.pos = p;
-      auto owned = std::make_unique<std::string>(std::move(subst));
-      subst = std::string();
-      std::string_view view = *owned;
-      ++m->expanding;
-      frames.push_back({std::move(owned), view, 0, m});
     }
-  } catch (const Overflow&) {
-    for (const Frame& f : frames)
+  } unmark{frames};
+  tokens_ = 0;
+  outermost_ = owner;
+  while (!frames.empty()) {
+    Frame& f = frames.back();
+    std::string_view t = f.text;
+    size_t i = f.pos;
+    if (i >= t.size()) {
       if (f.macro) --f.macro->expanding;
-    too_long(*outermost);
+      frames.pop_back();
+      continue;
+    }
+    char c = t[i];
+    if (is_blank(c)) {
+      out += c;
+      f.pos = i + 1;
+      continue;
+    }
+    // A directive operand itself is source text: only what macros bring is counted.
+    bool counted = owner || frames.size() > 1;
+    if (counted) count(1);
+    if (c == '"' || c == '\'') {
+      size_t e = skip_quoted(t, i);
+      out.append(t.substr(i, e - i));
+      f.pos = e;
+      continue;
+    }
+    if (is_digit(c)) {
+      size_t e = skip_number(t, i);
+      out.append(t.substr(i, e - i));
+      f.pos = e;
+      continue;
+    }
+    if (!is_ident_start(c)) {
+      out += c;
+      f.pos = i + 1;
+      continue;
+    }
+    size_t e = skip_ident(t, i);
+    std::string_view name = t.substr(i, e - i);
+    f.pos = e;
+    Macro* m = table_.find(name);
+    if (!m || m->expanding || m->kind == Macro::Kind::defined) {
+      out.append(name);
+      continue;
+    }
+    if (frames.size() == 1 && !owner) outermost_ = m;
+    if (m->kind != Macro::Kind::ordinary) {
+      out += builtin_text(*m);
+      continue;
+    }
+    if (!m->function_like) {
+      ++m->expanding;
+      frames.push_back({nullptr, m->replacement, 0, m});
+      continue;
+    }
+    if (f.no_calls) {
+      out.append(name);
+      continue;
+    }
+    size_t p = e;
+    ArgFault fault = text_args(*m, t, p, args);
+    if (fault != ArgFault::none) {
+      hooks_.report(arg_fault_text(fault, *m, false, "", 0));
+      if (fault == ArgFault::incomplete || fault == ArgFault::unbalanced) f.no_calls = true;
+      out.append(name);
+      continue;
+    }
+    if (counted) count(token_count(t.substr(e, p - e)));
+    if (!build(*m, args, subst)) {
+      out.append(name);
+      continue;
+    }
+    f.pos = p;
+    auto owned = std::make_unique<std::string>(std::move(subst));
+    subst = std::string();
+    std::string_view view = *owned;
+    ++m->expanding;
+    frames.push_back({std::move(owned), view, 0, m});
   }
   return out;
 }

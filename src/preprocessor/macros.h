@@ -107,23 +107,19 @@ class Expander {
   std::string builtin_text(const Macro& m) const;
 
  private:
-  struct Overflow {};  // the token limit was passed
-
   std::string run(std::string_view text, Macro* owner);
   bool build(const Macro& m, const std::vector<std::string>& args, std::string& out);
   // Reads the argument list of `m` that starts at `pos` (after the name).
   ArgFault text_args(const Macro& m, std::string_view text, size_t& pos,
                      std::vector<std::string>& args);
-  void count(std::size_t tokens) {
-    tokens_ += tokens;
-    if (tokens_ > expansion_token_limit) throw Overflow{};
-  }
-  // Reports the limit for the macro used in the text and ends the file's preprocessing.
-  [[noreturn]] void too_long(const Macro& outermost);
+  // Adds to the tokens of the current expansion; past the limit it reports
+  // the macro used in the text and throws PpStop 4.
+  void count(std::size_t tokens);
 
   MacroTable& table_;
   ExpandHooks hooks_;
   std::size_t tokens_ = 0;
+  const Macro* outermost_ = nullptr;  // the use that the limit message names
 };
 
 // The argument in double quotes; quote marks and backslashes inside its quoted
