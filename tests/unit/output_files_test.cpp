@@ -50,20 +50,16 @@ struct FileSizeLimit {
   rlimit saved{};
   void (*handler)(int) = SIG_DFL;
   explicit FileSizeLimit(rlim_t bytes) {
-    if (bytes == 0) return;
     getrlimit(RLIMIT_FSIZE, &saved);
     rlimit l = saved;
-    l.rlim_cur = bytes;
+    l.rlim_cur = bytes ? bytes : saved.rlim_cur;
     setrlimit(RLIMIT_FSIZE, &l);
     handler = signal(SIGXFSZ, SIG_IGN);
-    active = true;
   }
   ~FileSizeLimit() {
-    if (!active) return;
     setrlimit(RLIMIT_FSIZE, &saved);
     signal(SIGXFSZ, handler);
   }
-  bool active = false;
 };
 
 std::string fatal_report(const std::string& text) {
