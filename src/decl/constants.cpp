@@ -206,6 +206,12 @@ Folded fold_binary(char op, Folded a, Folded b, Diagnostics& diag, int line) {
       break;
     }
   }
+  // An integral value past the double range would become NaN in later
+  // operations, which no range check catches.
+  if (r.kind != 'f' && !std::isfinite(r.value)) {
+    report_beyond_integral(r.value, diag, line);
+    return decimal_one();
+  }
   return r;
 }
 

@@ -152,6 +152,14 @@ TEST_F(Constants, FoldingFormattingAndSizeChecks) {
       {[&] { return fold_binary('|', d("1"), fold_negate(f("3e9")), diag, 1); }, "1", 1,
        "the computed integral constant '-3000000000' exceeds the representation limits of type "
        "'long', which is the largest integral type\n"},
+      {[&] {
+         Folded big = fold_binary('*', d("4294967295"), d("4294967295"), diag, 1);
+         for (int i = 0; i < 40; ++i) big = fold_binary('*', big, d("4294967295"), diag, 1);
+         return fold_binary('-', big, big, diag, 1);
+       },
+       "0", 0,
+       "the computed integral constant 'inf' exceeds the representation limits of type "
+       "'unsigned long', which is the largest integral type\n"},
       {[&] { return fold_binary('|', f("4294967295.5"), fold_negate(f("2147483648.5")), diag, 1); },
        "-1.0", -1, "the dimension size must be a positive decimal integer value, not -1.0\n"},
   };
