@@ -23,6 +23,13 @@ inline bool is_ident_char(char c) { return is_ident_start(c) || (c >= '0' && c <
 inline bool is_digit(char c) { return c >= '0' && c <= '9'; }
 inline bool is_alpha(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
+// "\" and "/" both separate directories; files are opened with "/".
+inline std::string host_path(std::string name) {
+  for (char& c : name)
+    if (c == '\\') c = '/';
+  return name;
+}
+
 // Reads a whole file; false (with errno set) when it cannot be opened or read.
 bool read_file(const std::string& name, std::string& text, int& err);
 

@@ -142,6 +142,16 @@ Folded decimal_one() {
   return one;
 }
 
+// Whether a value lies within long and unsigned long, the widest integral
+// types (false for NaN); only such values may become integers.
+bool fits_integral(double value) { return value >= -2147483648.0 && value <= 4294967295.0; }
+
+void report_beyond_integral(double value, Diagnostics& diag, int line) {
+  diag.error(line, strf("the computed integral constant '%.*g' exceeds the representation "
+                        "limits of type '%s', which is the largest integral type",
+                        15, value, value < 0 ? "long" : "unsigned long"));
+}
+
 // Converts an operand's text; false on overflow.
 bool convert(Folded& f) {
   if (f.converted) return true;
@@ -184,10 +194,23 @@ Folded fold_binary(char op, Folded a, Folded b, Diagnostics& diag, int line) {
       }
       r.value = a.value / b.value;
       break;
-    case '|':
-      r.value = static_cast<double>(static_cast<long long>(std::trunc(a.value)) |
-                                    static_cast<long long>(std::trunc(b.value)));
+    case '|': {
+      double ta = std::trunc(a.value), tb = std::trunc(b.value);
+      for (double t : {ta, tb}) {
+        if (!fits_integral(t)) {
+          report_beyond_integral(t, diag, line);
+          return decimal_one();
+        }
+      }
+      r.value = static_cast<double>(static_cast<long long>(ta) | static_cast<long long>(tb));
       break;
+    }
+  }
+  // An integral value past the double range would become NaN in later
+  // operations, which no range check catches.
+  if (r.kind != 'f' && !std::isfinite(r.value)) {
+    report_beyond_integral(r.value, diag, line);
+    return decimal_one();
   }
   return r;
 }
@@ -202,10 +225,8 @@ std::string format_constant(const Folded& c, Diagnostics& diag, int line) {
     if (t.find_first_of(".eE") == std::string::npos) t += ".0";
     return sign + t;
   }
-  if (c.value < -2147483648.0 || c.value > 4294967295.0) {
-    diag.error(line, strf("the computed integral constant '%.*g' exceeds the representation "
-                          "limits of type '%s', which is the largest integral type",
-                          15, c.value, negative ? "long" : "unsigned long"));
+  if (!fits_integral(c.value)) {
+    report_beyond_integral(c.value, diag, line);
     return "1";
   }
   unsigned long v = static_cast<unsigned long>(std::trunc(magnitude));
@@ -223,10 +244,21 @@ long long checked_size(const Folded& c, const char* subject, bool positive, Diag
                           positive ? "positive" : "nonnegative", negative ? "-" : "",
                           digits.c_str()));
   }
-  if (c.converted) return static_cast<long long>(std::trunc(c.value));
-  long long v = std::strtoll(c.text.c_str(), nullptr, c.kind == 'x' ? 16 : 10);
-  if (c.kind == 'f') v = static_cast<long long>(std::strtod(c.text.c_str(), nullptr));
-  return c.negative ? -v : v;
+  double value;
+  if (c.converted) {
+    value = c.value;
+  } else {
+    value = c.kind == 'f' ? std::strtod(c.text.c_str(), nullptr)
+                          : static_cast<double>(std::strtoull(c.text.c_str(), nullptr, c.kind == 'x' ? 16 : 10));
+    if (c.negative) value = -value;
+  }
+  double truncated = std::trunc(value);
+  if (!fits_integral(truncated)) {
+    // Formatting has already reported a converted integral value.
+    if (!c.converted || c.kind == 'f') report_beyond_integral(truncated, diag, line);
+    return 1;
+  }
+  return static_cast<long long>(truncated);
 }
 
 }  // namespace ycc

@@ -47,6 +47,7 @@ std::string format_constant(const Folded& c, Diagnostics& diag, int line);
 // The value of a dimension size ("dimension size", positive) or resize number
 // or percent ("resize number"/"resize percent", nonnegative); `bad` is set
 // when the constant is hexadecimal, floating or negative (the value is still used).
+// A value beyond long and unsigned long is reported and becomes 1.
 long long checked_size(const Folded& c, const char* subject, bool positive, Diagnostics& diag,
                        int line, bool& bad);
 

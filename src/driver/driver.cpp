@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <new>
 
+#include "common/output_file.h"
 #include "common/text.h"
 #include "diag/diagnostics.h"
 #include "driver/command_line.h"
@@ -29,6 +30,9 @@ class Driver {
 
  private:
   void process(const SourceFile& file);
+  void preprocess_and_compile(const SourceFile& file, PpJob& job);
+  // Removes the intermediate file unless /P, and the output C file of a failed file.
+  void discard(const SourceFile& file, const PpJob& job, bool failed);
   int finish();
 
   std::ostream& out_;
@@ -69,40 +73,44 @@ void Driver::process(const SourceFile& file) {
   job.intermediate_name = file.intermediate_name;
   job.compile_flag = file.compile_flag;
   job.output_time = file.output_time;
+  try {
+    preprocess_and_compile(file, job);
+  } catch (...) {
+    // A fatal error ends the run: like a file with errors, this one keeps no
+    // output C file, and its intermediate file only with /P.
+    discard(file, job, true);
+    throw;
+  }
+  discard(file, job, diag_.run_errors > errors_before);
+}
 
+void Driver::preprocess_and_compile(const SourceFile& file, PpJob& job) {
   int err = 0;
-  bool halted = false;
   if (!read_file(file.source_name, job.source_text, err)) {
     diag_.pp_error(strf("unable to open source file '%s' : %s", file.source_name.c_str(),
                         system_error_text(err).c_str()),
                    nullptr);
-  } else {
-    try {
-      preprocess(options_, diag_, job);
-    } catch (const PpStop& stop) {
-      if (stop.code == 2) {
-        err_ << " preprocessing of '" << file.source_name << "' halted\n ** too many errors **\n";
-        halted = true;
-      }
-    }
-    if (!halted && diag_.pp_errors == 0 && job.compile_flag == 'y') {
-      out_ << " compile    '" << file.source_name << "'\n";
-      out_.flush();
-      try {
-        session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
-                                  file.source_name, options_.prefix);
-      } catch (const ParserResourceExit&) {
-        // The run ends here; the file's intermediate and output go first.
-        if (job.intermediate_written && !options_.keep_intermediate)
-          std::remove(file.intermediate_name.c_str());
-        std::remove(file.output_name.c_str());
-        throw;
-      }
+    return;
+  }
+  try {
+    preprocess(options_, diag_, job);
+  } catch (const PpStop& stop) {
+    if (stop.code == 2) {
+      err_ << " preprocessing of '" << file.source_name << "' halted\n ** too many errors **\n";
+      return;
     }
   }
-  if (job.intermediate_written && !options_.keep_intermediate)
-    std::remove(file.intermediate_name.c_str());
-  if (diag_.run_errors > errors_before) std::remove(file.output_name.c_str());
+  if (diag_.pp_errors == 0 && job.compile_flag == 'y') {
+    out_ << " compile    '" << file.source_name << "'\n";
+    out_.flush();
+    session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
+                              file.source_name, options_.prefix);
+  }
+}
+
+void Driver::discard(const SourceFile& file, const PpJob& job, bool failed) {
+  if (job.intermediate_written && !options_.keep_intermediate) remove_output(file.intermediate_name);
+  if (failed) remove_output(file.output_name);
 }
 
 int Driver::finish() {

@@ -2,8 +2,8 @@
 // file with merge markers replaced by their slots and "##" regions resolved.
 #include <cerrno>
 #include <cstdlib>
-#include <memory>
 
+#include "common/output_file.h"
 #include "common/text.h"
 #include "output/workspace.h"
 
@@ -16,6 +16,10 @@ const char header_text[] =
 
 [[noreturn]] void output_write_failed(const std::string& name) {
   fatal(strf("error writing to file '%s': %s", name.c_str(), system_error_text(errno).c_str()));
+}
+
+[[noreturn]] void output_open_failed(const std::string& name) {
+  fatal(strf("unable to open file '%s' for output: %s", name.c_str(), system_error_text(errno).c_str()));
 }
 
 void write_all(std::FILE* out, std::string_view text, const std::string& name) {
@@ -57,13 +61,11 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
 }
 
 void Workspace::assemble(const std::string& output_name) {
-  // Owned until the checked close at the end, so a fatal error cannot leak it.
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> owner(std::fopen(output_name.c_str(), "w+"),
-                                                        &std::fclose);
-  std::FILE* out = owner.get();
-  if (!out)
-    fatal(strf("unable to open file '%s' for output: %s", output_name.c_str(),
-               system_error_text(errno).c_str()));
+  // The file is written under a temporary name that a fatal error removes;
+  // only a complete file takes the output's name.
+  OutputFile file(output_name);
+  if (!file.open()) output_open_failed(output_name);
+  std::FILE* out = file.stream();
   output_name_ = output_name;
   if (diag_.errors == 0) {
     if (options_.memory_locations && generate_out_of_memory) generate_out_of_memory(*this);
@@ -90,7 +92,9 @@ void Workspace::assemble(const std::string& output_name) {
     copy_work_file(out, output_name);
   }
   if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
-  if (std::fclose(owner.release()) != 0) output_write_failed(output_name);
+  if (!file.close()) output_write_failed(output_name);
+  // Putting the file in place fails as its opening would, e.g. on a directory.
+  if (!file.commit()) output_open_failed(output_name);
   output_name_.clear();
 }
 

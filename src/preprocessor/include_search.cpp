@@ -27,12 +27,6 @@ bool try_open(const std::string& name, std::string& text) {
 
 }  // namespace
 
-std::string host_path(std::string name) {
-  for (char& c : name)
-    if (c == '\\') c = '/';
-  return name;
-}
-
 SearchPath search_path_for(const std::string& source_name, const std::string& include_dirs) {
   SearchPath p;
   p.dirs = include_dirs;

@@ -20,7 +20,4 @@ bool find_include(const SearchPath& path, const std::string& name, std::string& 
 
 std::string search_failure_text(const SearchPath& path, const std::string& name);
 
-// "\" and "/" both separate directories; files are opened with "/".
-std::string host_path(std::string name);
-
 }  // namespace ycc::pp

@@ -1,6 +1,7 @@
 #include "preprocessor/macros.h"
 
 #include "common/text.h"
+#include "diag/diagnostics.h"
 #include "preprocessor/text_scan.h"
 
 namespace ycc::pp {
@@ -163,9 +164,45 @@ std::string Expander::builtin_text(const Macro& m) const {
   return m.name;
 }
 
+namespace {
+
+size_t token_count(std::string_view s) {
+  size_t n = 0;
+  for (size_t i = skip_blanks(s, 0); i < s.size(); i = skip_blanks(s, i), ++n) {
+    char c = s[i];
+    if (c == '"' || c == '\'')
+      i = skip_quoted(s, i);
+    else if (is_ident_start(c))
+      i = skip_ident(s, i);
+    else if (is_digit(c))
+      i = skip_number(s, i);
+    else
+      ++i;
+  }
+  return n;
+}
+
+}  // namespace
+
+void Expander::count(size_t tokens) {
+  tokens_ += tokens;
+  if (tokens_ <= expansion_token_limit) return;
+  hooks_.report(strf("macro '%s' expansion: the expansion exceeds %zu tokens", outermost_->name.c_str(),
+                     expansion_token_limit));
+  throw PpStop{4};
+}
+
 bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, std::string& out) {
+  tokens_ = 0;
+  outermost_ = &m;
+  return build(m, args, out);
+}
+
+bool Expander::build(const Macro& m, const std::vector<std::string>& args, std::string& out) {
   std::string_view r = m.replacement;
   out.clear();
+  std::vector<size_t> arg_tokens;
+  for (const std::string& a : args) arg_tokens.push_back(token_count(a));
   auto param = [&](std::string_view name) -> int {
     auto it = m.param_index.find(name);
     return it == m.param_index.end() ? -1 : it->second;
@@ -175,18 +212,23 @@ bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, 
     char c = r[i];
     if (c == '"' || c == '\'') {
       size_t e = skip_quoted(r, i);
+      count(1);
       out.append(r.substr(i, e - i));
       i = e;
     } else if (is_ident_start(c)) {
       size_t e = skip_ident(r, i);
       int p = param(r.substr(i, e - i));
-      if (p >= 0)
+      if (p >= 0) {
+        count(arg_tokens[static_cast<size_t>(p)]);
         out += args[static_cast<size_t>(p)];
-      else
+      } else {
+        count(1);
         out.append(r.substr(i, e - i));
+      }
       i = e;
     } else if (is_digit(c)) {
       size_t e = skip_number(r, i);
+      count(1);
       out.append(r.substr(i, e - i));
       i = e;
     } else if (c == '#' && i + 1 < r.size() && r[i + 1] == '#') {
@@ -203,9 +245,11 @@ bool Expander::substitute(const Macro& m, const std::vector<std::string>& args, 
             m.name.c_str()));
         return false;
       }
+      count(1);
       out += stringize(args[static_cast<size_t>(p)]);
       i = e;
     } else {
+      if (!is_blank(c)) count(1);
       out += c;
       ++i;
     }
@@ -262,6 +306,16 @@ std::string Expander::run(std::string_view text, Macro* owner) {
   if (owner) ++owner->expanding;
   std::vector<std::string> args;
   std::string subst;
+  // A stopped expansion leaves no macro marked as expanding.
+  struct Unmark {
+    std::vector<Frame>& frames;
+    ~Unmark() {
+      for (const Frame& f : frames)
+        if (f.macro) --f.macro->expanding;
+    }
+  } unmark{frames};
+  tokens_ = 0;
+  outermost_ = owner;
   while (!frames.empty()) {
     Frame& f = frames.back();
     std::string_view t = f.text;
@@ -272,6 +326,14 @@ std::string Expander::run(std::string_view text, Macro* owner) {
       continue;
     }
     char c = t[i];
+    if (is_blank(c)) {
+      out += c;
+      f.pos = i + 1;
+      continue;
+    }
+    // A directive operand itself is source text: only what macros bring is counted.
+    bool counted = owner || frames.size() > 1;
+    if (counted) count(1);
     if (c == '"' || c == '\'') {
       size_t e = skip_quoted(t, i);
       out.append(t.substr(i, e - i));
@@ -297,6 +359,7 @@ std::string Expander::run(std::string_view text, Macro* owner) {
       out.append(name);
       continue;
     }
+    if (frames.size() == 1 && !owner) outermost_ = m;
     if (m->kind != Macro::Kind::ordinary) {
       out += builtin_text(*m);
       continue;
@@ -318,7 +381,8 @@ std::string Expander::run(std::string_view text, Macro* owner) {
       out.append(name);
       continue;
     }
-    if (!substitute(*m, args, subst)) {
+    if (counted) count(token_count(t.substr(e, p - e)));
+    if (!build(*m, args, subst)) {
       out.append(name);
       continue;
     }

@@ -1,6 +1,7 @@
 // The macro table and the expansion of macro uses in a text.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -85,6 +86,12 @@ class ArgCollector {
 std::string arg_fault_text(ArgFault f, const Macro& m, bool across_lines, std::string_view found,
                            int arg_number);
 
+// Each of expand, rescan and substitute may scan or build at most this many
+// tokens; past it the expansion is reported and the file's preprocessing ends
+// (PpStop 4). A macro that doubles at each of thirty levels would otherwise
+// run until memory is exhausted.
+inline constexpr std::size_t expansion_token_limit = 10000000;
+
 class Expander {
  public:
   Expander(MacroTable& table, ExpandHooks hooks) : table_(table), hooks_(std::move(hooks)) {}
@@ -101,12 +108,18 @@ class Expander {
 
  private:
   std::string run(std::string_view text, Macro* owner);
+  bool build(const Macro& m, const std::vector<std::string>& args, std::string& out);
   // Reads the argument list of `m` that starts at `pos` (after the name).
   ArgFault text_args(const Macro& m, std::string_view text, size_t& pos,
                      std::vector<std::string>& args);
+  // Adds to the tokens of the current expansion; past the limit it reports
+  // the macro used in the text and throws PpStop 4.
+  void count(std::size_t tokens);
 
   MacroTable& table_;
   ExpandHooks hooks_;
+  std::size_t tokens_ = 0;
+  const Macro* outermost_ = nullptr;  // the use that the limit message names
 };
 
 // The argument in double quotes; quote marks and backslashes inside its quoted

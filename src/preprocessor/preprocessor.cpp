@@ -159,13 +159,13 @@ void Preprocessor::write_intermediate() {
     job_.intermediate_text = std::move(writer_.out);
     return;
   }
-  std::FILE* f = std::fopen(host_path(job_.intermediate_name).c_str(), "wb");
+  std::string path = host_path(job_.intermediate_name);
+  std::FILE* f = std::fopen(path.c_str(), "wb");
   if (!f) {
     report(top().reader.last_line(), strf("output file '%s' : %s", job_.intermediate_name.c_str(),
                                           system_error_text(errno).c_str()));
     return;
   }
-  job_.intermediate_written = true;
   const std::string& out = writer_.out;
   bool ok = std::fwrite(out.data(), 1, out.size(), f) == out.size();
   int err = errno;
@@ -173,9 +173,14 @@ void Preprocessor::write_intermediate() {
     ok = false;
     err = errno;
   }
-  if (!ok)
-    report(top().reader.last_line(),
-           strf("output file '%s' : %s", job_.intermediate_name.c_str(), system_error_text(err).c_str()));
+  if (ok) {
+    job_.intermediate_written = true;
+    return;
+  }
+  // A truncated intermediate file is of no use, even with /P.
+  std::remove(path.c_str());
+  report(top().reader.last_line(),
+         strf("output file '%s' : %s", job_.intermediate_name.c_str(), system_error_text(err).c_str()));
 }
 
 void Preprocessor::run() {

@@ -123,10 +123,12 @@ Token Reader::next(bool checked) {
   if (is_digit(c) || (c == '.' && pos_ + 1 < t_.size() && is_digit(t_[pos_ + 1])))
     return word(tok, Tok::number);
   unsigned char u = static_cast<unsigned char>(c);
-  if (checked && (u < 32 || u > 126 || c == '$' || c == '@' || c == '`')) {
+  bool printable = u >= 32 && u <= 126;
+  if (checked && (!printable || c == '$' || c == '@' || c == '`')) {
+    // Control and non-ASCII bytes would corrupt a terminal: '?' (itself legal) stands for them.
     report_(line_, strf("fatal: illegal character '%c' (decimal value is %d): this character, which "
                         "is neither quoted nor commented, is not in the YARL C character set",
-                        c, static_cast<int>(static_cast<signed char>(c))));
+                        printable ? c : '?', static_cast<int>(u)));
     throw PpStop{3};
   }
   tok.kind = Tok::punct;

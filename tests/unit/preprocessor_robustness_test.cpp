@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "common/text.h"
 #include "preprocessor_test_util.h"
 
 namespace ycc {
@@ -75,6 +76,44 @@ TEST(Robustness, InvocationOpenAcrossManyLines) {
   EXPECT_EQ(r.errors, 1);
   // The text after the faulty name is kept, line by line.
   EXPECT_EQ(body(r).size(), 1 + 5 + 100000 * 2);
+}
+
+// Thirty levels of doubling: each stops at the token limit with one message,
+// ends the file's preprocessing, and leaves no macro marked as expanding.
+TEST(Robustness, ExponentialExpansionStopsAtTokenLimit) {
+  struct Case {
+    const char* first;     // level 1
+    const char* level;     // level n from level p (both %d)
+    const char* use;
+    const char* name;
+  } cases[] = {
+      {"#define M1 x", "#define M%d M%d M%d", "int M30;", "M30"},
+      {"#define E1", "#define E%d E%d E%d", "int E30 a;", "E30"},
+      {"#define F1(a) a", "#define F%d(a) F%d(a a)", "int F30(x);", "F30"},
+      {"#define M1 x", "#define M%d M%d M%d", "#if M30 > 0\n#endif", "M30"},
+  };
+  for (const Case& c : cases) {
+    std::string src = std::string(c.first) + "\n";
+    for (int n = 2; n <= 30; ++n) src += strf(c.level, n, n - 1, n - 1) + "\n";
+    src += std::string(c.use) + "\nint after;\n";
+    test::PpRun r = run_pp(src);
+    EXPECT_EQ(r.messages, strf("\n (line) in 'a.yc'\n (31) **error: macro '%s' expansion: the "
+                               "expansion exceeds 10000000\n               tokens\n",
+                               c.name))
+        << c.use;
+    EXPECT_EQ(r.stop, 4) << c.use;
+    EXPECT_EQ(r.text, "") << c.use;
+  }
+}
+
+// Below the limit nothing is reported, and each use has a limit of its own.
+TEST(Robustness, LargeExpansionsBelowTheLimit) {
+  std::string src = "#define M1 x\n";
+  // M22 scans 2^22 - 2 names and 2^21 x's.
+  for (int n = 2; n <= 22; ++n) src += strf("#define M%d M%d M%d\n", n, n - 1, n - 1);
+  test::PpRun r = run_pp(src + "M22\nM22\n");
+  EXPECT_EQ(r.messages, "");
+  EXPECT_EQ(body(r).size(), 22 + 2 * (2 * (1u << 21)));
 }
 
 }  // namespace
