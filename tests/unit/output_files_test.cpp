@@ -81,10 +81,11 @@ TEST(OutputFiles, NothingTruncatedOrStrayIsLeft) {
       {"output name is a directory", {"a.yc"}, "/", 0, 1,
        fatal_report("unable to open file 'a.c' for output: Is a directory"),
        {"a.yc", "a.c/", "a.c/keep"}},
-      // The intermediate file (25 bytes) and the work file fit; the output does not.
-      {"output write fails", {"a.yc"}, "from an earlier run\n", 64, 1,
+      // The intermediate file (25 bytes) and the work file (no support
+      // functions with /M and /B) fit; the output, with its header, does not.
+      {"output write fails", {"/M", "/B", "a.yc"}, "from an earlier run\n", 64, 1,
        fatal_report("error writing to file 'a.c': File too large"), {"a.yc"}},
-      {"output write fails, /P keeps the complete intermediate", {"/P", "a.yc"}, "", 64, 1,
+      {"output write fails, /P keeps the complete intermediate", {"/M", "/B", "/P", "a.yc"}, "", 64, 1,
        fatal_report("error writing to file 'a.c': File too large"), {"a.yc", "a.i"}},
       {"intermediate write fails", {"/P", "a.yc"}, "from an earlier run\n", 8, 1,
        "\n (line) in 'a.yc'\n (1) **error: output file 'a.i' : File too large\n", {"a.yc"}},

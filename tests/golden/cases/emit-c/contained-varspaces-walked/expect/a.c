@@ -44,6 +44,9 @@ for(zzzz_walk1 = 0; zzzz_walk1 < 3; ++zzzz_walk1) {
    o.many[zzzz_walk1].text.occurs = 0;
    o.many[zzzz_walk1].text.limit1 = 0;
 }
+o.zz_many.ptr = o.many;
+o.zz_many.occurs = 0;
+o.zz_many.limit1 = 3;
 zz_list.ptr = list;
 for(zzzz_walk1 = 0; zzzz_walk1 < zz_list.limit1; ++zzzz_walk1) {
    list[zzzz_walk1].text.ptr = NULL;
