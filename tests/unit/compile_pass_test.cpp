@@ -210,3 +210,54 @@ TEST(CompilePass, StructuresNestedTwentyThousandDeep) {
 
 }  // namespace
 }  // namespace ycc
+
+namespace ycc {
+namespace {
+
+// Space references at sizes far beyond real programs: each translates, or
+// ends in the parser's own overflow report, without crashing or hanging.
+TEST(CompilePass, SpaceReferencesAtExtremeSizes) {
+  auto nested = [](int depth) {
+    std::string e = "0";
+    for (int i = 0; i < depth; ++i) e = "a[" + e + "]";
+    return "f() int r;\nf() int r\n{\n   int var a[];\n   r = " + e + ";\n}\n";
+  };
+  auto dimensions = [](int n) {
+    std::string empty, subs;
+    for (int i = 0; i < n; ++i) {
+      empty += "[]";
+      subs += "[" + std::to_string(i) + "]";
+    }
+    return "f() int r;\nf() int r\n{\n   int var a" + empty + ";\n   a" + subs + " = 1;\n   r = a" + subs + ";\n}\n";
+  };
+  auto many = [](int n) {
+    std::string decls, uses;
+    for (int i = 0; i < n; ++i) {
+      decls += "   int var v" + std::to_string(i) + "[];\n";
+      uses += "   v" + std::to_string(i) + "[r] = r;\n";
+    }
+    return "f() int r;\nf() int r\n{\n" + decls + "   r = 0;\n" + uses + "}\n";
+  };
+  struct Row {
+    const char* what;
+    std::string source;
+    const char* expect;  // a text of the output
+  };
+  const Row rows[] = {
+      {"subscripts nested 1,000 deep", nested(1000), "zzzz_int999 = (*(((int *)(a.ptr)) + ((zzzz_int998))));"},
+      {"100 dimensions", dimensions(100), "struct zz100D_meta {"},
+      {"10,000 varspaces in one function", many(10000), "(*(((int *)(v9999.ptr)) + ((r)))) = r;"},
+  };
+  for (const Row& r : rows) {
+    PassFixture f;
+    f.options.warning_level = 1;
+    std::string out = f.compile("s", "\n#line 1 \"s.yc\"\n" + r.source, "s.yc");
+    EXPECT_EQ(f.err.str(), "") << r.what;
+    EXPECT_NE(out.find(r.expect), std::string::npos) << r.what;
+  }
+  PassFixture f;
+  EXPECT_THROW(f.compile("s", "\n#line 1 \"s.yc\"\n" + nested(10000), "s.yc"), ParserResourceExit);
+}
+
+}  // namespace
+}  // namespace ycc
