@@ -28,9 +28,7 @@ std::string_view without_suffix(std::string_view text, std::string& suffix) {
   return text.substr(0, end);
 }
 
-const char not_yet[] =
-    "'%s' : space references with subscripts, components, '.occurs', '.limit', "
-    "'added_length', 'free', sizeof of an expression and calls are not translated yet";
+const char not_yet[] = "'%s' : 'free' and calls are not translated yet";
 
 }  // namespace
 
