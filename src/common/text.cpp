@@ -48,3 +48,21 @@ bool read_file(const std::string& name, std::string& text, int& err) {
 }
 
 }  // namespace ycc
+
+namespace ycc {
+
+std::string c_string_text(std::string_view s) {
+  std::string out;
+  out.reserve(s.size());
+  for (char c : s) {
+    if (c == '\n') {
+      out += "\\n";
+      continue;
+    }
+    if (c == '\\' || c == '"') out += '\\';
+    out += c;
+  }
+  return out;
+}
+
+}  // namespace ycc

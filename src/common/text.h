@@ -9,6 +9,10 @@ namespace ycc {
 // printf-style formatting into a std::string; message texts keep their C formats.
 std::string strf(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
 
+// A text as the body of a C string literal: backslashes, quotes and
+// newlines escaped.
+std::string c_string_text(std::string_view s);
+
 // The system's text for an errno value.
 std::string system_error_text(int err);
 

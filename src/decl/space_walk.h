@@ -19,12 +19,16 @@ namespace ycc {
 
 class SpaceWalker {
  public:
-  // A part reached by the walk.
+  // A part reached by the walk. A walk may follow a second object of the
+  // same type in step (the source of a copy): its texts are `mirror` and
+  // `mirror_record`, empty when there is none.
   struct Part {
     int sym;                 // the variable or member
     const std::string& object;  // C text designating it
     const std::string& record;  // its meta record ("" for a plain structure)
     int depth;               // loops open around it
+    const std::string& mirror;
+    const std::string& mirror_record;
   };
   // What to do at a part and around it; `out` receives the generated text.
   struct Visitor {
@@ -35,6 +39,8 @@ class SpaceWalker {
     virtual std::string loop_bound(const Part& p, int k) = 0;
     // The name of the loop counter at loop depth `depth` (from 0).
     virtual std::string loop_counter(int depth) = 0;
+    // A varspace reached by the walk, before its elements (when visited).
+    virtual void enter_varspace(const Part&) {}
     // A varspace reached by the walk, after its elements.
     virtual void varspace(const Part&) {}
     // A fixed-space member (its record is its companion), after its elements.
@@ -47,11 +53,25 @@ class SpaceWalker {
   // record is `record`, with `depth` loops already open; text to `out`.
   void walk(int sym, const std::string& object, const std::string& record, int depth, Visitor& v,
             std::string& out);
+  // The walk of an object whose type is the structure `tag` (an element of
+  // a space, a member reached through subscripts).
+  void walk_structure(int tag, const std::string& object, const std::string& mirror, int depth, Visitor& v,
+                      std::string& out);
+  // The same walk over two objects of one type in step.
+  void walk_pair(int sym, const std::string& object, const std::string& record, const std::string& mirror,
+                 const std::string& mirror_record, int depth, Visitor& v, std::string& out);
 
   // Whether the type of `sym` is a structure with parts to walk (and which).
   int nesting_struct(int sym) const;
 
  private:
+  struct Frame0 {
+    int sym;
+    int tag;
+  };
+  void walk_frames(Frame0 root, const std::string& object, const std::string& record, const std::string& mirror,
+                   const std::string& mirror_record, int depth, Visitor& v, std::string& out);
+
   const SymbolTable& symbols_;
   const Names& names_;
 };

@@ -28,7 +28,7 @@ std::string_view without_suffix(std::string_view text, std::string& suffix) {
   return text.substr(0, end);
 }
 
-const char not_yet[] = "'%s' : 'free' and calls are not translated yet";
+const char not_yet[] = "'%s' : calls are not translated yet";
 
 }  // namespace
 
@@ -117,13 +117,6 @@ void Translator::parenthesized(const Token& lparen) {
   e.ref.reset();
   if (e.jump_form() || e.value.empty()) return;
   e.value = "(" + e.value + ")";
-}
-
-void Translator::free_reference(const Token& keyword) {
-  ensure_operands(1, keyword.line);
-  Operand& e = top();
-  e.empty = true;
-  if (!e.reported) report(e, strf(not_yet, "free"));
 }
 
 void Translator::call(const CallInfo& info) {
@@ -540,89 +533,6 @@ void Translator::conditional(const Token& question, const Token& colon) {
   e.false_label = e.true_label = 0;
   e.lvalue = e.literal = e.emit = e.empty = false;
   e.reported = reported;
-}
-
-void Translator::assignment(AssignMode mode, const Token& op) {
-  ensure_operands(2, op.line);
-  int left = top_index() - 1, right = top_index();
-  to_value(right);
-  std::string o = op_text(op);
-  Operand& l = operand(left);
-  Operand& r = operand(right);
-  bool reported = l.reported || r.reported;
-  auto fail = [&](const std::string& text) {
-    if (!reported) diag_.error(op.line, text);
-    reported = true;
-  };
-  if (mode == AssignMode::Compound) {
-    bool integral = o == "%=" || o == "<<=" || o == ">>=" || o == "&=" || o == "|=" || o == "^=";
-    bool ok_left = test_class(l, integral ? 7 : 5, true, "'%s' : the left operand %s", o);
-    bool ok_right = test_class(r, integral ? 7 : 5, true, "'%s' : the right operand %s", o);
-    if (!ok_left || !ok_right) reported = true;
-    if (!reported && !l.lvalue) fail(strf("'%s' requires an l-value", o.c_str()));
-  } else if (is_aggregate(l) || is_aggregate(r)) {
-    fail(strf("'%s' : assignment and move of structures, spaces and casted character spaces are not "
-              "translated yet",
-              o.c_str()));
-  } else if (mode == AssignMode::Move) {
-    fail("'===' : the operands must be structures or spaces");
-  } else {
-    const char* verb = "assigned";
-    if (!l.lvalue) fail(strf("'%s' : the left operand is not an l-value", o.c_str()));
-    if (is_enum(l) || is_enum(r)) {
-      if (is_enum(l) && is_enum(r)) {
-        if (l.type_sym != r.type_sym) fail(strf("'%s' : the operands have incompatible enumeration types", o.c_str()));
-      } else if (is_enum(l)) {
-        if (!is_literal_zero(r))
-          fail("'=' : a non-enumeration value cannot be assigned to an enumeration variable, with the sole "
-               "exception of assigning literal 0 (zero)");
-      } else {
-        fail(strf("'%s' : an enumeration value cannot be %s to a non-enumeration variable", o.c_str(), verb));
-      }
-    } else if (is_function(l) || is_function(r)) {
-      if (is_function(l) && is_function(r)) {
-        if (!same_function_type(l.type_sym, r.type_sym))
-          fail(strf("'%s' : the operands have incompatible function types", o.c_str()));
-      } else if (is_function(l)) {
-        if (!is_literal_zero(r))
-          fail("'=' : a non-function value cannot be assigned to a function variable, with the sole "
-               "exception of assigning literal 0 (zero)");
-      } else {
-        fail(strf("'%s' : a function value cannot be %s to a non-function variable", o.c_str(), verb));
-      }
-    } else if (l.type_bits && r.type_bits && !l.empty && !r.empty) {
-      // A literal takes any type of its own family.
-      bool lenient = r.literal && is_floating(l.type_bits) == is_floating(r.type_bits);
-      if (!lenient && !sufficiently_equivalent(l.type_bits, r.type_bits))
-        fail(strf("'%s' : the left operand's arithmetic type '%s' is not sufficiently equivalent to the "
-                  "right operand's arithmetic type '%s'",
-                  o.c_str(), type_words(l.type_bits).c_str(), type_words(r.type_bits).c_str()));
-    } else {
-      fail(strf("'%s' : the operands have incompatible types", o.c_str()));
-    }
-  }
-  if (mode == AssignMode::Compound && checked_store(l)) {
-    // The element is read into a temporary, and the result written back
-    // through the checks of a written element.
-    std::string t = temporary(l.type_bits);
-    Code write = written_copy(l);
-    Operand rv = pop_operand();
-    Operand& e = operand(left);
-    e.code += std::move(rv.code);
-    e.code += strf("\n%s = %s;\n%s %s %s;", t.c_str(), e.value.c_str(), t.c_str(), o.c_str(), rv.value.c_str());
-    e.code += std::move(write);
-    e.value = e.value + " = " + t;
-  } else {
-    // The left operand's checks are those of a written element.
-    if (mode != AssignMode::Compound) l.code.rewrite_written();
-    l.value.append(" ").append(o).append(" ").append(r.value);
-    code(left) += std::move(pop_operand().code);
-  }
-  Operand& e = operand(left);
-  e.emit = true;
-  e.lvalue = e.literal = false;
-  e.reported = reported;
-  e.ref.reset();
 }
 
 bool Translator::checked_store(const Operand& e) const {

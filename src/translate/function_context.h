@@ -63,6 +63,9 @@ struct FunctionContext {
   int added_length_used = 0;  // line of the first use
   bool cast_assigned = false;
 
+  // Loop counters declared for the walks of assignments and free.
+  int walk_counters = 0;
+
   // Temporaries: the next number of each type within a statement, and the
   // highest declared in the function.
   std::map<int, int> temp_next;

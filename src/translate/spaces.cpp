@@ -25,16 +25,6 @@ const char* ordinal_suffix(int n) {
   }
 }
 
-// A text placed inside a C string literal.
-std::string c_string_body(std::string_view s) {
-  std::string out;
-  for (char c : s) {
-    if (c == '\\' || c == '"') out += '\\';
-    out += c;
-  }
-  return out;
-}
-
 bool joins_words(char a, char b) { return is_ident_char(a) && is_ident_char(b); }
 
 }  // namespace
@@ -266,7 +256,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
   const bool one = n == 1 && k == 1;
   const int position = support_.position(line);
   const std::string report = strf("\n   %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(),
-                                  c_string_body(name).c_str(), position, 2 * k);
+                                  c_string_text(name).c_str(), position, 2 * k);
   auto sub = [&](int i) { return subs[static_cast<size_t>(i)]; };
   // The added length of a cast object goes with the last subscript.
   auto add = [&](int i) { return i == k - 1 ? added : std::string(); };
@@ -309,7 +299,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
       c += strf("\nif((%s)(%s) < 0 || (%s)(%s)%s >= (%s.occurs))", "signed", sub(0).c_str(), "unsigned",
                 sub(0).c_str(), added.c_str(), record.c_str());
       c += strf("\n   %s(\"%s\", %d, %d, (%s)(%s)%s, (%s)(%s.occurs));", support_.bounds_exceeded().c_str(),
-                c_string_body(name).c_str(), position, 2, "unsigned", sub(0).c_str(), added.c_str(), "unsigned",
+                c_string_text(name).c_str(), position, 2, "unsigned", sub(0).c_str(), added.c_str(), "unsigned",
                 record.c_str());
       c.marker('j');
     }

@@ -37,6 +37,16 @@ inline bool is_floating(int bits) { return (bits & 48) != 0; }
 // class message ("cannot be a space, the required type is scalar").
 std::string class_message(const Operand& e, int cls, bool refuse_aggregates);
 
+// What an aggregate operand of an assignment designates.
+struct Aggregate {
+  int sym = 0;       // a whole space: the variable or member
+  int tag = 0;       // a structure: its type
+  std::string text;  // the space's record, or the structure object
+  std::string name;  // as written
+  bool var = false;
+  int dims = 0;
+};
+
 class Translator {
  public:
   Translator(const Options& options, Diagnostics& diag, Workspace& ws, Declarations& decl,
@@ -185,6 +195,15 @@ class Translator {
   // A cast applied directly to a reference of a character space: the
   // operand becomes a casted character space. False for a value cast.
   bool character_space_cast(int i, const TypeName& type);
+
+  // ---- Assignment and move (assign.cpp) ----
+  // The loop counter of the assignment walks at loop depth `depth`.
+  std::string walk_counter(int depth);
+  void finish_assignment(int i, bool reported, bool has_value);
+  bool aggregate_of(const Operand& e, Aggregate& a) const;
+  void aggregate_assignment(int left, bool move, const std::string& op, bool reported, int line);
+  void zero_assignment(int left, bool reported, int line);
+  void cast_assignment(int left, bool reported, int line);
 
   // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
