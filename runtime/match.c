@@ -13,9 +13,35 @@
 #include <string.h>
 
 #include "ycrt_lib.h"
-#include "regex.h"
+#include "ycrt_regex.h"
 
 #define ENTRY (RE_NUM + RE_POS)
+
+/* The number codes of the hot loop, unrolled (RE_NUM and RE_POS bytes). */
+static unsigned long get_num(const unsigned char *p)
+{
+   return (unsigned long)(p[0] & 127) | (unsigned long)(p[1] & 127) << 7 |
+          (unsigned long)(p[2] & 127) << 14 | (unsigned long)(p[3] & 127) << 21;
+}
+
+static void put_num(unsigned char *p, unsigned long v)
+{
+   p[0] = (unsigned char)(0x80 | (v & 127));
+   p[1] = (unsigned char)(0x80 | ((v >> 7) & 127));
+   p[2] = (unsigned char)(0x80 | ((v >> 14) & 127));
+   p[3] = (unsigned char)(0x80 | ((v >> 21) & 127));
+}
+
+static size_t get_pos(const unsigned char *p)
+{
+   return (size_t)get_num(p) | (size_t)(p[4] & 127) << 28;
+}
+
+static void put_pos(unsigned char *p, size_t v)
+{
+   put_num(p, (unsigned long)(v & 0xfffffffUL));
+   p[4] = (unsigned char)(0x80 | ((v >> 28) & 127));
+}
 
 struct machine {
    int nfwd, nrev, nsets, fstart, rstart, scratch;
@@ -82,19 +108,19 @@ struct run {
 
 static unsigned long entry_state(const unsigned char *list, size_t i)
 {
-   return ycrt_get7(list + i * ENTRY, RE_NUM);
+   return get_num(list + i * ENTRY);
 }
 
 /* Adds state x to the list unless there; 1 when added. */
 static int add(struct run *r, unsigned long x, size_t start)
 {
    unsigned char *sparse = r->mc->sparse + x * RE_NUM;
-   size_t i = ycrt_get7(sparse, RE_NUM);
+   size_t i = get_num(sparse);
    if (i < r->count && entry_state(r->list, i) == x)
       return 0;
-   ycrt_put7(sparse, (unsigned long)r->count, RE_NUM);
-   ycrt_put7(r->list + r->count * ENTRY, x, RE_NUM);
-   ycrt_put7(r->list + r->count * ENTRY + RE_NUM, (unsigned long)start, RE_POS);
+   put_num(sparse, (unsigned long)r->count);
+   put_num(r->list + r->count * ENTRY, x);
+   put_pos(r->list + r->count * ENTRY + RE_NUM, start);
    ++r->count;
    return 1;
 }
@@ -110,12 +136,12 @@ static void closure(struct run *r, unsigned long x, size_t start, size_t pos)
       return;
    }
    if (add(r, x, start))
-      ycrt_put7(stack + top++ * RE_NUM, x, RE_NUM);
+      put_num(stack + top++ * RE_NUM, x);
    while (top > 0) {
       const unsigned char *st;
       unsigned long next[2];
       int k, follow = 0;
-      x = ycrt_get7(stack + --top * RE_NUM, RE_NUM);
+      x = get_num(stack + --top * RE_NUM);
       st = r->prog + x * RE_STATE;
       switch (st[0]) {
       case OP_JUMP:
@@ -138,15 +164,17 @@ static void closure(struct run *r, unsigned long x, size_t start, size_t pos)
          }
          break;
       }
-      next[0] = ycrt_get7(st + 2, RE_NUM);
-      next[1] = ycrt_get7(st + 2 + RE_NUM, RE_NUM);
+      if (follow == 0)
+         continue;
+      next[0] = get_num(st + 2);
+      next[1] = get_num(st + 2 + RE_NUM);
       for (k = 0; k < follow; ++k) {
          if (next[k] >= r->nstates) {
             r->bad = 1;
             return;
          }
          if (add(r, next[k], start))
-            ycrt_put7(stack + top++ * RE_NUM, next[k], RE_NUM);
+            put_num(stack + top++ * RE_NUM, next[k]);
       }
    }
 }
@@ -161,7 +189,7 @@ static int reads(const struct run *r, const unsigned char *st, int c)
    case OP_ANY:
       return 1;
    case OP_SET:
-      set = ycrt_get7(st + 2 + RE_NUM, RE_NUM);
+      set = get_num(st + 2 + RE_NUM);
       if (set >= (unsigned long)r->mc->nsets)
          return -1;
       return in_set(r->mc->sets + set * RE_SET, c);
@@ -176,7 +204,7 @@ static void step(struct run *r, const unsigned char *cur, size_t ncur, int c, si
    size_t i;
    for (i = 0; i < ncur && !r->bad; ++i) {
       unsigned long x = entry_state(cur, i);
-      size_t start = ycrt_get7(cur + i * ENTRY + RE_NUM, RE_POS);
+      size_t start = get_pos(cur + i * ENTRY + RE_NUM);
       const unsigned char *st = r->prog + x * RE_STATE;
       int hit;
       if (forwards && r->found && start > r->best_start)
@@ -185,7 +213,7 @@ static void step(struct run *r, const unsigned char *cur, size_t ncur, int c, si
       if (hit < 0)
          r->bad = 1;
       else if (hit)
-         closure(r, ycrt_get7(st + 2, RE_NUM), start, forwards ? pos + 1 : pos - 1);
+         closure(r, get_num(st + 2), start, forwards ? pos + 1 : pos - 1);
    }
 }
 

@@ -11,7 +11,7 @@
 #include <string.h>
 
 #include "ycrt_lib.h"
-#include "regex.h"
+#include "ycrt_regex.h"
 
 enum { T_CHAR, T_SET, T_ANY, T_BOL, T_EOL, T_EMPTY, T_CAT, T_ALT, T_STAR, T_PLUS, T_QUEST, T_REP, T_OPEN };
 
