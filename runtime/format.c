@@ -203,31 +203,25 @@ static int build(struct ycrt_buf *out, const struct ycrt_meta1 *format, va_list 
          break;
       }
       errno = 0;
-      switch (s.conv) {
-      case 'd':
-      case 'i':
-         if (s.length != 0)
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, long), result);
-         else
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, int), result);
-         break;
-      case 'u':
-      case 'x':
-      case 'X':
-         if (s.length != 0)
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, unsigned long), result);
-         else
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, unsigned), result);
-         break;
-      case 'c':
-         FORMAT(out, t.p, nstars, stars, va_arg(ap, int), result);
-         break;
-      default:
-         if (s.length == 'L')
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, long double), result);
-         else
-            FORMAT(out, t.p, nstars, stars, va_arg(ap, double), result);
-         break;
+      /* the value is taken once: FORMAT uses it twice */
+      if (strchr("di", s.conv) != NULL && s.length != 0) {
+         long v = va_arg(ap, long);
+         FORMAT(out, t.p, nstars, stars, v, result);
+      } else if (strchr("uxX", s.conv) != NULL && s.length != 0) {
+         unsigned long v = va_arg(ap, unsigned long);
+         FORMAT(out, t.p, nstars, stars, v, result);
+      } else if (strchr("uxX", s.conv) != NULL) {
+         unsigned v = va_arg(ap, unsigned);
+         FORMAT(out, t.p, nstars, stars, v, result);
+      } else if (strchr("dic", s.conv) != NULL) {
+         int v = va_arg(ap, int);
+         FORMAT(out, t.p, nstars, stars, v, result);
+      } else if (s.length == 'L') {
+         long double v = va_arg(ap, long double);
+         FORMAT(out, t.p, nstars, stars, v, result);
+      } else {
+         double v = va_arg(ap, double);
+         FORMAT(out, t.p, nstars, stars, v, result);
       }
    }
    ycrt_buf_free(&t);

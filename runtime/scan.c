@@ -1,7 +1,9 @@
 /* The scanf family. Every conversion reads the longest run of characters
    that is, or begins, an item of its kind, with one character of look-ahead
-   as the C library has; the item is then converted by strtol, strtoul or
-   strtod. A run that begins an item but is not one is a matching failure. */
+   as the C library has; the run is then converted by strtol, strtoul or
+   strtod. As in the GNU C library, a run that only begins an item ("1e",
+   "0x") gives the number its longest valid start spells; a run with no
+   valid start is a matching failure. */
 #include <ctype.h>
 #include <stdarg.h>
 #include <stdio.h>
@@ -97,11 +99,6 @@ static int integer_next(int *state, int *base, int c)
       return 0;
    }
    return 0;
-}
-
-static int integer_done(int state)
-{
-   return state == 2 || state == 4;
 }
 
 enum {
@@ -211,18 +208,6 @@ static int float_next(struct float_state *f, int c)
    return 0;
 }
 
-static int float_done(const struct float_state *f)
-{
-   switch (f->state) {
-   case F_INT: case F_FRAC: case F_EXP: case F_ZERO: case F_HEX: case F_HEXFRAC:
-   case F_PEXP: case F_NANEND:
-      return 1;
-   case F_WORD:
-      return f->word[0] == 'n' ? f->at == 3 : (f->at == 3 || f->at == 8);
-   }
-   return 0;
-}
-
 enum { GOT_ITEM, NO_MATCH, NO_INPUT, NO_MEMORY };
 
 /* Collects a numeric item into t (NUL-terminated). */
@@ -244,7 +229,10 @@ static int collect_number(struct reader *r, struct ycrt_buf *t, size_t width, in
    unget(r, c);
    if (ycrt_buf_add(t, "", 1) != 0)
       return NO_MEMORY;
-   return (floating ? float_done(&fs) : integer_done(state)) ? GOT_ITEM : NO_MATCH;
+   /* the GNU C library refuses a floating "0x" that no digit follows */
+   if (floating && fs.state == F_0X)
+      return NO_MATCH;
+   return t->n > 1 ? GOT_ITEM : NO_MATCH;
 }
 
 struct conversion {
@@ -282,6 +270,17 @@ static size_t parse_conversion(const char *f, size_t n, struct conversion *cv)
       return 0;
    cv->conv = f[i];
    return i + 1;
+}
+
+/* Whether the run begins with a number of the conversion's kind. */
+static int number_starts(const struct conversion *cv, const char *text, int base)
+{
+   char *end;
+   if (strchr("feEgG", cv->conv) != NULL)
+      strtod(text, &end);
+   else
+      strtoul(text, &end, base);
+   return end > text;
 }
 
 static void store_number(const struct conversion *cv, const char *text, int base, va_list *ap)
@@ -388,6 +387,8 @@ static int scan(struct reader *r, const struct ycrt_meta1 *format, va_list *ap)
          int floating = strchr("feEgG", cv.conv) != NULL;
          int base = cv.conv == 'i' ? 0 : cv.conv == 'x' || cv.conv == 'X' ? 16 : 10;
          outcome = collect_number(r, &t, cv.width, floating, &base);
+         if (outcome == GOT_ITEM && !number_starts(&cv, t.p, cv.conv == 'i' ? 0 : base))
+            outcome = NO_MATCH;
          if (outcome == GOT_ITEM && !cv.suppress)
             store_number(&cv, t.p, cv.conv == 'i' ? 0 : base, ap);
       }
