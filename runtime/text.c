@@ -193,6 +193,8 @@ int ycrt_buf_add(struct ycrt_buf *b, const char *s, size_t n)
 
 int ycrt_buf_fill(struct ycrt_buf *b, char c, size_t n)
 {
+   if (n == 0)
+      return 0;
    if (buf_grow(b, n) != 0)
       return -1;
    memset(b->p + b->n, c, n);

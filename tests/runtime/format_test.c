@@ -76,7 +76,7 @@ static void every_conversion(void)
             continue;
          for (w = 0; w < sizeof widths / sizeof widths[0]; ++w)
             for (p = 0; p < sizeof precisions / sizeof precisions[0]; ++p) {
-               int ws = widths[w][0] == '*', ps = precisions[p][1] == '*';
+               int ws = strchr(widths[w], '*') != NULL, ps = strchr(precisions[p], '*') != NULL;
                int a = stars[(w + p + (size_t)flags) % 4], b = stars[(w * 3 + p + ci) % 4];
                if (conv == 'c' && precisions[p][0] != 0)
                   continue;
