@@ -1,9 +1,11 @@
 // Runs one golden case: copies its inputs into a fresh directory, runs ycc
 // there and compares streams, exit status and files with the expected ones.
 // When the case has a `run` file, the generated C is built with every C
-// compiler installed, together with the run-time library, and run.
+// compiler installed, linked with that compiler's build of the run-time
+// library (LIB_DIR/<variant>/libycrt.a), and run; the gcc build runs once
+// more under valgrind when it is installed.
 //
-// usage: golden_runner YCC CASE_DIR RUNTIME_DIR
+// usage: golden_runner YCC CASE_DIR RUNTIME_DIR LIB_DIR
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -139,15 +141,25 @@ bool have(const std::string& tool) {
   return std::system(cmd.c_str()) == 0;
 }
 
+// Runs the program and compares what it did with the expected files.
+void compare_run(const fs::path& case_dir, const fs::path& work, const std::vector<std::string>& command,
+                 const std::string& label) {
+  std::vector<std::string> words(command.begin() + 1, command.end());
+  Outcome ran = run_in(work, command[0], command[0], words, {});
+  compare_text(case_dir / "run.stdout", ran.out, label + " program stdout");
+  compare_text(case_dir / "run.stderr", ran.err, label + " program stderr");
+  compare_status(case_dir / "run.status", ran.status, label + " program status");
+}
+
 // Builds the generated program with each installed C compiler and, unless
 // `link_only`, runs it. A file without a main of its own is linked with a
 // stand-in main.
 void run_program(const fs::path& case_dir, const fs::path& work, const fs::path& runtime,
-                 bool link_only) {
+                 const fs::path& libs, bool link_only) {
   std::string c_file = trimmed(slurp(case_dir / (link_only ? "link" : "run")));
   struct Cc {
     const char* name;   // the compiler
-    const char* label;  // how reports name this build
+    const char* label;  // how reports name this build, and its library's directory
     const char* flags;
   };
   // The sanitizer build checks that generated programs never read or write
@@ -158,9 +170,16 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       {"tcc", "tcc", ""},
       {"gcc", "gcc-sanitized", "-std=c99 -fsanitize=address,undefined -fno-sanitize-recover=undefined"},
   };
+  int built_any = 0;
   for (const Cc& cc : compilers) {
     if (!have(cc.name)) continue;
     if (link_only && std::string(cc.label) != cc.name) continue;
+    fs::path library = libs / cc.label / "libycrt.a";
+    if (!link_only && !fs::exists(library)) {
+      ++failures;
+      std::cout << "--- " << cc.label << " is installed but " << library.string() << " was not built\n";
+      continue;
+    }
     std::string exe = std::string("prog_") + cc.label;
     std::vector<std::string> words = words_of(std::string(cc.flags));
     words.push_back("-I" + runtime.string());
@@ -171,8 +190,7 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       spill(work / "stand_in_main.c", "int main(void) { return 0; }\n");
       words.push_back("stand_in_main.c");
     } else {
-      for (const auto& e : fs::directory_iterator(runtime))
-        if (e.path().extension() == ".c") words.push_back(e.path().string());
+      words.push_back(library.string());
     }
     words.push_back("-lm");
     std::string path = std::string("/usr/bin/") + cc.name;
@@ -182,24 +200,30 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       std::cout << "--- " << cc.label << " failed to build " << c_file << ":\n" << built.err;
       continue;
     }
+    ++built_any;
     if (link_only) continue;
-    // The run-time entry keeps the argument copies until the process ends.
-    Outcome ran = run_in(work, (work / exe).string(), exe, {}, {"ASAN_OPTIONS=detect_leaks=0"});
-    compare_text(case_dir / "run.stdout", ran.out, std::string(cc.label) + " program stdout");
-    compare_text(case_dir / "run.stderr", ran.err, std::string(cc.label) + " program stderr");
-    compare_status(case_dir / "run.status", ran.status, std::string(cc.label) + " program status");
+    compare_run(case_dir, work, {(work / exe).string()}, cc.label);
+    if (std::string(cc.label) == "gcc" && have("valgrind"))
+      compare_run(case_dir, work,
+                  {"/usr/bin/valgrind", "-q", "--error-exitcode=99", "--leak-check=full",
+                   "--errors-for-leak-kinds=definite,indirect", (work / exe).string()},
+                  "valgrind gcc");
+  }
+  if (built_any == 0) {
+    ++failures;
+    std::cout << "--- no C compiler is installed: the program was not built\n";
   }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 4) {
-    std::cerr << "usage: golden_runner YCC CASE_DIR RUNTIME_DIR\n";
+  if (argc != 5) {
+    std::cerr << "usage: golden_runner YCC CASE_DIR RUNTIME_DIR LIB_DIR\n";
     return 2;
   }
   fs::path ycc = fs::absolute(argv[1]), case_dir = fs::absolute(argv[2]),
-           runtime = fs::absolute(argv[3]);
+           runtime = fs::absolute(argv[3]), libs = fs::absolute(argv[4]);
   char templ[] = "/tmp/ycc-golden-XXXXXX";
   if (!mkdtemp(templ)) {
     std::cerr << "cannot make a temporary directory\n";
@@ -248,8 +272,8 @@ int main(int argc, char** argv) {
       }
     }
   }
-  if (fs::exists(case_dir / "run") && failures == 0) run_program(case_dir, work, runtime, false);
-  if (fs::exists(case_dir / "link") && failures == 0) run_program(case_dir, work, runtime, true);
+  if (fs::exists(case_dir / "run") && failures == 0) run_program(case_dir, work, runtime, libs, false);
+  if (fs::exists(case_dir / "link") && failures == 0) run_program(case_dir, work, runtime, libs, true);
 
   if (failures == 0) {
     fs::remove_all(work);

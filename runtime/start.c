@@ -1,23 +1,26 @@
-/* The run-time entry of translated YARL C programs: builds the argument space,
-   calls the YARL C main through its returns array, and turns main's results
-   into the process status. */
+/* The program's start: the C main that builds the argument space, calls the
+   YARL C main through its returns array and turns its results into the
+   process status. Kept alone in its file so that a C program can link the
+   library without taking this main. */
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-/* The layout of every one-dimensional meta record. */
-struct ycrt_meta1 {
-   void *ptr;
-   unsigned occurs;
-   unsigned limit1;
-};
-
-void _yc__main(void *returns[], struct ycrt_meta1 *args);
+#include "ycrt_lib.h"
 
 static void not_enough_memory(void)
 {
    fputs("** not enough memory to start main() **\n   execution terminated\n", stdout);
    exit(1);
+}
+
+static void free_arguments(struct ycrt_meta1 *elements, int count)
+{
+   int i;
+   for (i = 0; i < count; ++i)
+      if (elements[i].limit1 > 0)
+         free(elements[i].ptr);
+   free(elements);
 }
 
 int main(int argc, char **argv)
@@ -47,6 +50,9 @@ int main(int argc, char **argv)
    returns[0] = &exception;
    returns[1] = &status;
    _yc__main(returns, &args);
+   /* each argument is a varspace that main may have grown or freed */
+   free_arguments(elements, argc);
+   ycrt_files_close_all();
 
    if (exception == 0)
       return status;
