@@ -14,6 +14,9 @@ namespace ycc {
 
 namespace {
 
+// The nested spaces one variable may hold.
+constexpr int walk_part_limit = 100000;
+
 int keyword_bit(int tok) {
   switch (tok) {
     case T_CHAR: return TB_CHAR;
@@ -240,6 +243,17 @@ void Declarations::end_tag_body(TagKind kind, const Token&) {
     Symbol& tag = symbols_[tags_.back()];
     int sub = tags_.back();
     tag.body_end = symbols_.count();
+    if (tag.name_is == 's') {
+      // The parts a walk of this structure meets: each nested space and the
+      // parts of each nested structure type, once per place it stands.
+      long long parts = 0;
+      for (int m : tag.vf) {
+        int t = symbols_.resolve_type(symbols_[m].type_sym);
+        parts += 1 + (t && symbols_[t].name_is == 's' ? symbols_[t].walk_parts : 0);
+        if (parts > walk_part_limit) parts = walk_part_limit + 1;
+      }
+      symbols_[sub].walk_parts = static_cast<int>(parts);
+    }
     if (tag.name_is == 'e') {
       int constants = 0;
       for (int c = sub + 1; c < tag.body_end; ++c)
@@ -591,6 +605,19 @@ void Declarations::check_declarator(const Token* name, bool initialized) {
   // The initializer is walked against the declaration it completes.
   if (initialized && symbols_[sub].error_flags == 0)
     symbols_[sub].init_text = check_initializer(symbols_, diag_, emit_, sub, init_items_);
+  s = &symbols_[sub];
+
+  // Code that initializes, copies and frees nested spaces is written part by
+  // part: a type that nests too many (each level holding the last twice is
+  // enough) would make it grow without bound.
+  {
+    int t = symbols_.resolve_type(symbols_[sub].type_sym);
+    if (symbols_[sub].name_class != 'c' && t && symbols_[t].name_is == 's' && symbols_[t].walk_parts > walk_part_limit)
+      error(line, sub, ERR_SPACE,
+            strf("'%s' nests more than %d spaces: the code that would set them up, copy them and free them "
+                 "one by one is too large",
+                 n, walk_part_limit));
+  }
   s = &symbols_[sub];
 
   // 12. External varspaces without resize information.

@@ -60,6 +60,7 @@ struct Symbol {
   bool emitted = false;     // a tag whose C definition has been written
   bool local = false;       // a tag declared inside a function body
   int enum_count = 0;       // an enumeration's constants
+  int walk_parts = 0;       // a structure's nested spaces, as walks meet them (capped)
   int ref_count = 0;
   int resize_count = 0;
   int body_end = 0;         // a tag's members and a fun type's lists stand below this number

@@ -345,9 +345,10 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
     if (!same && l.kind == 'n' && r.kind == 'n') same = same_function_type(l.type_sym, r.type_sym);
     if (!same) fail(strf("'%s' : the operands have incompatible types", on));
   }
-  if (reported) {
+  // After an error no code is kept: nothing is walked.
+  if (reported || diag_.errors > 0) {
     code(left) += std::move(pop_operand().code);
-    finish_assignment(left, true, false);
+    finish_assignment(left, reported, false);
     return;
   }
 
@@ -616,7 +617,7 @@ void Translator::free_reference(const Token& keyword) {
       bool eligible = s.is_var == 'y' || (s.dim_count() == 1) || holds;
       if (!eligible) {
         report(e, strf("invalid free: '%s' %s", r.written.c_str(), refused));
-      } else {
+      } else if (diag_.errors == 0) {
         SpaceWalker walker(symbols_, names_);
         Release release(symbols_, [this](int depth) { return walk_counter(depth); }, out, true);
         walker.walk(r.sym, s.dim_count() > 0 ? "" : r.object, r.record, 0, release, out);

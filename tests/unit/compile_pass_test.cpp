@@ -261,3 +261,70 @@ TEST(CompilePass, SpaceReferencesAtExtremeSizes) {
 
 }  // namespace
 }  // namespace ycc
+
+namespace ycc {
+namespace {
+
+// The output with its long lines joined again (the writer breaks a line past
+// column 72 after a blank or comma, continuing with one blank).
+std::string joined(const std::string& out) {
+  std::string j;
+  for (size_t i = 0; i < out.size(); ++i) {
+    if (out[i] == '\n' && i > 0 && (out[i - 1] == ' ' || out[i - 1] == ',') && i + 1 < out.size() &&
+        out[i + 1] == ' ') {
+      ++i;
+      continue;
+    }
+    j += out[i];
+  }
+  return j;
+}
+
+// Assignments and free over deeply nested structures stay linear; a type
+// whose nested spaces double at each level is refused, not expanded.
+TEST(CompilePass, AssignmentOfDeeplyNestedStructures) {
+  auto chain = [](int depth, bool doubling) {
+    std::string src = "struct s0 { int a; char var text[]; int f[2]; };\n";
+    for (int i = 1; i < depth; ++i)
+      src += strf(doubling ? "struct s%d { int b; struct s%d x; struct s%d var many[]; };\n"
+                           : "struct s%d { int b; struct s%d x; };\n",
+                  i, i - 1, i - 1);
+    src += strf("f();\nf()\n{\n   struct s%d p;\n   struct s%d q;\n   p.b = 1;\n   q = p;\n   q === p;\n"
+                "   free q;\n}\n",
+                depth - 1, depth - 1);
+    return src;
+  };
+  {
+    PassFixture f;
+    std::string out = joined(f.compile("n", "\n#line 1 \"n.yc\"\n" + chain(1000, false), "n.yc"));
+    EXPECT_EQ(f.err.str(), "");
+    std::string path = ".x";
+    for (int i = 2; i < 1000; ++i) path += ".x";
+    EXPECT_NE(out.find("memcpy(q" + path + ".text.ptr, p" + path + ".text.ptr,"), std::string::npos);
+  }
+  {
+    PassFixture f;
+    f.compile("n", "\n#line 1 \"n.yc\"\n" + chain(40, true), "n.yc");
+    EXPECT_EQ(f.err.str(),
+              "\n (line) in 'n.yc'\n (44) **error: 'p' nests more than 100000 spaces: the code that would\n"
+              "               set them up, copy them and free them one by one is too\n"
+              "               large\n (45) **error: 'q' nests more than 100000 spaces: the code that would\n"
+              "               set them up, copy them and free them one by one is too\n               large\n");
+  }
+  {
+    // A space of structures of spaces of structures, copied and freed.
+    PassFixture f;
+    std::string out = joined(f.compile("n",
+                                "\n#line 1 \"n.yc\"\nstruct leaf { char var t[]; };\n"
+                                "struct mid { struct leaf var leaves[]; };\n"
+                                "f();\nf()\n{\n   struct mid var a[];\n   struct mid var b[];\n   a[1].leaves[2].t[3] = 'x';\n"
+                                "   b = a;\n   free a;\n}\n",
+                                "n.yc"));
+    EXPECT_EQ(f.err.str(), "");
+    EXPECT_NE(out.find("((struct leaf *)(((struct mid *)(b.ptr))[zzzz_imw2].leaves.ptr))[zzzz_imw3].t.ptr = malloc("),
+              std::string::npos);
+  }
+}
+
+}  // namespace
+}  // namespace ycc
