@@ -64,6 +64,14 @@ std::string Emitter::pointer_type(int sub) const {
   return element_type(sub) + " *";
 }
 
+std::string Emitter::declaration_named(int sub, const std::string& name) const {
+  const Symbol& s = symbols_[sub];
+  if (s.is_var == 'y') return "struct " + names_.meta_type(s.dim_count()) + " " + name + " = {NULL};";
+  int t = symbols_.resolve_type(s.type_sym);
+  if (t && symbols_[t].name_is == 'n') return fun_pointer(t, name) + ";";
+  return element_type(sub) + " " + name + ";";
+}
+
 std::string Emitter::file_level_type(int sub, std::vector<int>& copied, std::string& type) {
   hoisting_ = true;
   type = c_type(sub);
@@ -404,6 +412,12 @@ void Emitter::function_closing(int f) {
                              r.name.c_str()));
   }
   free_block_varspaces(f + 1);
+  // What the translation left for the exit (the blocks of call temporaries).
+  if (!ws_.function_exit.empty()) {
+    std::string exit;
+    exit.swap(ws_.function_exit);
+    ws_.put_text('n', exit);
+  }
   ws_.put_text('n', strf("\n*((int *)(%s[0])) = %s;", ret.c_str(), names_.generated("exception").c_str()));
   ws_.put_text('n', "\n}\n");
 }

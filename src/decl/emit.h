@@ -34,6 +34,8 @@ class Emitter {
   // The C type of an element of `sub` ("int", "struct s", a fun type's
   // "void (*) (...)"), and of a pointer to one ("int *", "void (**) (...)").
   std::string c_type(int sub) const;
+  // The declaration of `sub` under another name (a call's temporary for it).
+  std::string declaration_named(int sub, const std::string& name) const;
   std::string pointer_type(int sub) const;
 
   // Code generated outside every function (resize functions) needs the

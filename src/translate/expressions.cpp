@@ -28,7 +28,7 @@ std::string_view without_suffix(std::string_view text, std::string& suffix) {
   return text.substr(0, end);
 }
 
-const char not_yet[] = "'%s' : calls are not translated yet";
+
 
 }  // namespace
 
@@ -117,20 +117,6 @@ void Translator::parenthesized(const Token& lparen) {
   e.ref.reset();
   if (e.jump_form() || e.value.empty()) return;
   e.value = "(" + e.value + ")";
-}
-
-void Translator::call(const CallInfo& info) {
-  int operands = info.return_count + (info.through_pointer ? 1 : 0) + info.argument_count;
-  ensure_operands(operands, info.callee->line);
-  // The operands' code in their order, in one pass.
-  Code text;
-  int first = top_index() - operands + 1;
-  for (int k = first; k <= top_index(); ++k) text += std::move(code(k));
-  for (int k = 0; k < operands; ++k) pop_operand();
-  Operand& e = push_operand(info.callee->line);
-  e.code = std::move(text);
-  e.empty = true;
-  report(e, strf(not_yet, info.through_pointer ? "(*x)" : std::string(info.callee->text).c_str()));
 }
 
 void Translator::syntax_error_operand(const Token& at) {

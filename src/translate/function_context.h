@@ -66,6 +66,16 @@ struct FunctionContext {
   // Loop counters declared for the walks of assignments and free.
   int walk_counters = 0;
 
+  // Calls: the slots of the largest returns array; the temporaries that hold
+  // the returns of calls used as values ("rt", by return variable) and the
+  // records of spaces built for calls ("md", by dimension count), numbered
+  // per statement and declared once per function.
+  int actuals = 0;
+  std::vector<int> rt_symbols;
+  std::map<int, int> rt_next, rt_declared;
+  std::vector<int> md_dims;
+  std::map<int, int> md_next, md_declared;
+
   // Temporaries: the next number of each type within a statement, and the
   // highest declared in the function.
   std::map<int, int> temp_next;

@@ -96,6 +96,10 @@ struct Reference {
   bool occurs_or_limit = false;
   size_t checks_at = 0;         // where `checks` begins in the operand's code
   int subscripted = 0;          // subscripts given, over all components
+  int root = 0;                 // the variable the reference begins with
+  // Each component and whether it is a varspace whose elements the
+  // reference reaches (the integrity checks of calls read this).
+  std::vector<std::pair<int, bool>> path;
   // The last subscripted component, kept for a character-space cast that
   // makes its checks again.
   int last_sym = 0;
@@ -123,6 +127,8 @@ struct Operand {
   bool empty = false;     // no value at all
   int line = 0;
   bool partial = false;   // a partially elided space
+  bool string_literal = false;
+  std::string format;     // a string literal's text between its quotes
   std::shared_ptr<Reference> ref;  // while it is a space reference
 
   bool jump_form() const { return false_label != 0 || true_label != 0; }

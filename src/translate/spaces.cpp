@@ -37,6 +37,8 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   bool pointer = container.empty() && (s.p_or_r == 'p' || s.p_or_r == 'r');
   std::string name = container.empty() ? s.name : container + "." + s.name;
   r.sym = sym;
+  if (container.empty()) r.root = sym;
+  r.path.emplace_back(sym, false);
   r.subs.clear();
   r.written_name = r.written;
   r.pointer_record = pointer;
@@ -204,7 +206,10 @@ void Translator::finish_component(Operand& e) {
   r.object = e.value;
   r.record.clear();
   r.subs.clear();
-  if (s.is_var == 'y') r.heap = true;
+  if (s.is_var == 'y') {
+    r.heap = true;
+    r.path.back().second = true;
+  }
 }
 
 std::string Translator::element_address(int sym, const std::string& record, const std::vector<std::string>& given) {

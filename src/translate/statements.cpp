@@ -60,12 +60,19 @@ void Translator::close_function_body(const Token& rbrace) {
     if (info.defined > 0 && info.referenced == 0)
       diag_.warning(info.line, strf("statement label '%s' is unreferenced in this function", name.c_str()), 2);
   ws_.to_fragment = false;
+  if (fn().actuals > 0 && diag_.errors == 0) {
+    std::string actuals = generated("actuals");
+    ws_.wd_locals += strf("\nvoid *%s[%d];", actuals.c_str(), fn().actuals);
+    ws_.wd_init_code += strf("\n%s[0] = &(%s);", actuals.c_str(), generated("exception").c_str());
+  }
   stack_.clear();
   fn_.reset();
 }
 
 void Translator::begin_statement(const Token&) {
   fn().temp_next.clear();
+  fn().rt_next.clear();
+  fn().md_next.clear();
   fn().frames.push_back({false, stack_size()});
 }
 

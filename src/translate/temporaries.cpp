@@ -104,6 +104,51 @@ void Translator::string_literal(Operand& e, const Token& t) {
   e.value = record;
   e.type_bits = 1;
   e.dims = 1;
+  e.string_literal = true;
+  std::string_view quoted(sc.c_text);
+  e.format = std::string(quoted.substr(1, quoted.size() >= 2 ? quoted.size() - 2 : 0));
+}
+
+}  // namespace ycc
+
+namespace ycc {
+
+std::string Translator::return_temporary(int ret) {
+  const Symbol& r = symbols_[ret];
+  int t = symbols_.resolve_type(r.type_sym);
+  bool scalar = r.dim_count() == 0 && (!t || symbols_[t].name_is == 'e');
+  if (scalar) return temporary(t ? 4 : symbols_.type_bits_of(ret));
+  FunctionContext& f = fn();
+  auto at = std::find(f.rt_symbols.begin(), f.rt_symbols.end(), ret);
+  int position = static_cast<int>(at - f.rt_symbols.begin()) + 1;
+  if (at == f.rt_symbols.end()) f.rt_symbols.push_back(ret);
+  int use = ++f.rt_next[ret];
+  std::string name = names_.prefix() + names_.prefix() + strf("_rt_%d_%d", position, use);
+  if (use > f.rt_declared[ret]) {
+    f.rt_declared[ret] = use;
+    add_local("\n" + decl_.emitter().declaration_named(ret, name));
+    // A space a library call returns into the temporary is released at the exit.
+    if (r.is_var == 'y' && diag_.errors == 0)
+      ws_.function_exit += strf("\nif(%s.limit1 > 0) {\nfree(%s.ptr);\n;}", name.c_str(), name.c_str());
+  }
+  return name;
+}
+
+std::string Translator::meta_temporary(int dimensions) {
+  YCC_CHECK(dimensions > 0, "yc_fun2");
+  int dims = dimensions;
+  FunctionContext& f = fn();
+  auto at = std::find(f.md_dims.begin(), f.md_dims.end(), dims);
+  int position = static_cast<int>(at - f.md_dims.begin()) + 1;
+  if (at == f.md_dims.end()) f.md_dims.push_back(dims);
+  int use = ++f.md_next[dims];
+  std::string name = names_.prefix() + names_.prefix() + strf("_md_%d_%d", position, use);
+  if (use > f.md_declared[dims]) {
+    f.md_declared[dims] = use;
+    add_local(strf("\nstruct %s %s;", names_.meta_type(dims).c_str(), name.c_str()));
+    ws_.note_dimensions(dims);
+  }
+  return name;
 }
 
 }  // namespace ycc

@@ -20,6 +20,9 @@
 #include "diag/diagnostics.h"
 #include "front/actions.h"
 #include "output/workspace.h"
+#include "decl/functions.h"
+#include "decl/library_table.h"
+#include "translate/call_site.h"
 #include "translate/function_context.h"
 #include "translate/operand.h"
 #include "translate/resize.h"
@@ -204,6 +207,25 @@ class Translator {
   void aggregate_assignment(int left, bool move, const std::string& op, bool reported, int line);
   void zero_assignment(int left, bool reported, int line);
   void cast_assignment(int left, bool reported, int line);
+
+  // ---- Calls (calls.cpp, call_checks.cpp, formats.cpp) ----
+  std::string exception_test(const CallSite& site, const LibraryFunction* row);
+  // Whether an argument for `param` is passed by reference (spaces, structures).
+  bool by_reference(int param, const Operand& a) const;
+  // The object a return slot points to; the C text of an argument.
+  std::string argument_object(const Operand& a);
+  std::string argument_text(const CallSite& site, Operand& a, int param, std::string& prep);
+  std::string type_mismatch(const CallSite& site, const Operand& a, int decl, const std::string& what);
+  bool check_argument(const CallSite& site, Operand& a, int param, int n);
+  bool check_return_variable(const CallSite& site, Operand& v, int ret, int n);
+  bool check_format(const CallSite& site, int args_at, int count, bool scanf);
+  bool check_sorting(const CallSite& site, int args_at, int count);
+  bool check_integrity(const CallSite& site, int returns_at, int return_count, int args_at, int count,
+                       const FunctionLists& lists);
+  // The temporary that holds return `ret` of a call used as a value, and the
+  // record of a space built for a call.
+  std::string return_temporary(int ret);
+  std::string meta_temporary(int dimensions);
 
   // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
