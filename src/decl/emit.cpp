@@ -34,8 +34,9 @@ std::string Emitter::element_type(int sub) const {
 
 std::string Emitter::fun_pointer(int fun, const std::string& name) const {
   std::string t = "void (*" + name + ") (void *[]";
+  // A fun type's parameters, or a prototype's.
   for (int p = fun + 1; p < symbols_.count() && symbols_[p].owner == fun; ++p)
-    if (symbols_[p].p_or_r == 'a') t += ", " + parameter(p, false);
+    if (symbols_[p].p_or_r == 'a' || symbols_[p].p_or_r == 'p') t += ", " + parameter(p, false);
   if (symbols_[fun].ellipsis == 'y') t += ", ...";
   return t + ")";
 }

@@ -275,11 +275,18 @@ void Translator::finish_assignment(int i, bool reported, bool has_value) {
 }
 
 bool Translator::aggregate_of(const Operand& e, Aggregate& a) const {
-  if (!e.ref || !e.ref->finished || e.partial) return false;
-  const Reference& r = *e.ref;
-  a.name = r.written;
+  if (e.partial) return false;
   a.dims = e.dims;
   a.tag = e.kind == 's' ? e.type_sym : 0;
+  if (e.dims == 0 && e.kind == 's') {
+    // A structure needs only its object (a conditional's result has no reference).
+    a.text = e.value;
+    a.name = e.ref ? e.ref->written : e.value;
+    return true;
+  }
+  if (!e.ref || !e.ref->finished) return false;
+  const Reference& r = *e.ref;
+  a.name = r.written;
   if (e.dims > 0) {
     a.sym = r.sym;
     a.text = r.record;

@@ -483,12 +483,21 @@ void Translator::conditional(const Token& question, const Token& colon) {
       fail("for operands 'b' and 'c', a function type cannot be paired with other types, with the "
            "sole exception of pairing with literal 0 (zero)");
     }
-    if (!reported) fail("operands 'b' and 'c' are functions: the conditional of functions is not translated yet");
+    kind = 'n';
+    type_sym = is_function(eb) ? eb.type_sym : ec.type_sym;
   } else if (is_aggregate(eb) || is_aggregate(ec)) {
-    if (eb.dims != ec.dims || eb.kind != ec.kind || eb.type_sym != ec.type_sym)
+    int elided_b = eb.partial ? eb.dims : 0, elided_c = ec.partial ? ec.dims : 0;
+    if (eb.dims > 0 && ec.dims > 0 && elided_b != elided_c)
+      fail("operands 'b' and 'c' do not have the same number of elided dimensions");
+    else if (eb.dims > 0 && ec.dims > 0 && eb.dims != ec.dims)
+      fail("operands 'b' and 'c' do not have the same number of unelided dimensions");
+    else if (eb.dims != ec.dims || eb.kind != ec.kind || eb.type_sym != ec.type_sym ||
+             (eb.kind == 0 && !sufficiently_equivalent(eb.type_bits, ec.type_bits)) || eb.partial || ec.partial ||
+             (eb.dims > 0 && (!eb.ref || !ec.ref ||
+                              symbols_[eb.ref->sym].is_var != symbols_[ec.ref->sym].is_var)))
       fail("operands 'b' and 'c' have incompatible types");
-    else if (!reported)
-      fail("operands 'b' and 'c' are aggregates: the conditional of aggregates is not translated yet");
+    else
+      kind = 'a';
   } else if (eb.type_bits && ec.type_bits && !eb.empty && !ec.empty) {
     bool lenient = (eb.literal || ec.literal) && is_floating(eb.type_bits) == is_floating(ec.type_bits);
     if (!lenient && !sufficiently_equivalent(eb.type_bits, ec.type_bits))
@@ -500,6 +509,10 @@ void Translator::conditional(const Token& question, const Token& colon) {
                                        : arithmetic_result(eb.type_bits, ec.type_bits);
   } else {
     fail("operands 'b' and 'c' have incompatible types");
+  }
+  if (kind == 'a' || kind == 'n') {
+    conditional_object(a, f, skip, reported, kind == 'a');
+    return;
   }
   std::string t = temporary(kind ? 4 : bits);
   Operand oc = pop_operand();
@@ -529,6 +542,70 @@ Code Translator::written_copy(const Operand& e) const {
   Code c = e.code.copy_from(e.ref->checks_at);
   c.rewrite_written();
   return c;
+}
+
+}  // namespace ycc
+
+namespace ycc {
+
+// a ? b : c of functions goes through a function-pointer temporary; of
+// structures and spaces through a pointer to the one chosen, so the result
+// designates it.
+void Translator::conditional_object(int a, const std::string& false_label, const std::string& skip, bool reported,
+                                    bool aggregate) {
+  Operand oc = pop_operand();
+  Operand ob = pop_operand();
+  const Operand& model = is_function(ob) || aggregate ? ob : oc;
+  std::string p = names_.prefix() + names_.prefix() + strf("_ptr%d", ++fn().pointer_temps);
+  const Emitter& emitter = decl_.emitter();
+  std::string declaration;
+  if (!aggregate) {
+    int fun = model.type_sym;
+    if (symbols_[fun].name_is != 'n') fun = function_signature(symbols_, fun);
+    declaration = emitter.fun_pointer(fun, p);
+  } else if (model.dims > 0) {
+    declaration = "struct " + names_.meta_type(symbols_[model.ref->sym].dim_count()) + " *" + p;
+  } else {
+    declaration = "struct " + emitter.tag_name(model.type_sym) + " *" + p;
+  }
+  add_local("\n" + declaration + ";");
+  auto object = [&](const Operand& o) { return aggregate ? (o.dims > 0 ? o.ref->record : o.value) : o.value; };
+  const char* form = aggregate ? "\n%s = &(%s);" : "\n%s = %s;";
+  Code& joined = code(a);
+  joined += std::move(ob.code);
+  joined += strf(form, p.c_str(), object(ob).c_str());
+  joined += strf("\ngoto %s;\n%s:", skip.c_str(), false_label.c_str());
+  joined += std::move(oc.code);
+  joined += strf(form, p.c_str(), object(oc).c_str());
+  joined += strf("\n%s:", skip.c_str());
+  Operand& e = operand(a);
+  Operand result = model;
+  result.code = std::move(e.code);
+  result.line = e.line;
+  result.reported = reported;
+  result.false_label = result.true_label = 0;
+  result.literal = result.emit = false;
+  if (aggregate) {
+    result.value = "(*" + p + ")";
+    if (model.dims > 0) {
+      auto r = std::make_shared<Reference>(*model.ref);
+      r->record = result.value;
+      r->checks = Code();
+      r->checks_at = 0;
+      r->subscripted = 0;
+      r->path.clear();
+      result.ref = r;
+    } else {
+      result.ref.reset();
+    }
+    result.lvalue = true;
+  } else {
+    result.value = p;
+    result.ref.reset();
+    result.lvalue = false;
+    result.kind = 'n';
+  }
+  e = std::move(result);
 }
 
 }  // namespace ycc

@@ -65,6 +65,8 @@ struct FunctionContext {
 
   // Loop counters declared for the walks of assignments and free.
   int walk_counters = 0;
+  // Pointer temporaries of conditionals over functions and aggregates.
+  int pointer_temps = 0;
 
   // Calls: the slots of the largest returns array; the temporaries that hold
   // the returns of calls used as values ("rt", by return variable) and the

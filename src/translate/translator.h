@@ -158,6 +158,8 @@ class Translator {
   // An expression whose value is not used: labels placed, value emitted if marked.
   void finish_expression(int i, bool as_statement);
   void become_jump_form(Operand& e, int false_label, int true_label, bool reported);
+  void conditional_object(int a, const std::string& false_label, const std::string& skip, bool reported,
+                          bool aggregate);
 
   // ---- Operand classes (operand_classes.cpp) ----
   bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op);
