@@ -124,13 +124,15 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
     if (!is_extern && !member) t += " = {NULL}";
     return t + ";";
   }
-  int f = symbols_.resolve_type(s.type_sym);
-  if (f && symbols_[f].name_is == 'n')
-    t += fun_pointer(f, s.name);
-  else
-    t += element_type(sub) + " " + s.name;
+  std::string dims;
   for (const Dimension& d : s.dims)
-    t += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
+    dims += d.size ? strf("[%d]", d.size) : (is_extern ? std::string("[2]") : std::string("[]"));
+  int f = symbols_.resolve_type(s.type_sym);
+  // An array of function pointers: the dimensions go inside the declarator.
+  if (f && symbols_[f].name_is == 'n')
+    t += fun_pointer(f, s.name + dims);
+  else
+    t += element_type(sub) + " " + s.name + dims;
   // A structure with fixed-space members gets their companions in its
   // initializer when it has one or when it has static storage; a local
   // without initializer sets them up in its init code.

@@ -25,7 +25,8 @@ namespace {
 
 const std::set<std::string> reserved = {"args",       "env",        "stdout", "stderr",
                                         "status",     "expect",     "absent", "run",
-                                        "run.stdout", "run.status", "run.stderr", "link", "README"};
+                                        "run.stdout", "run.status", "run.stderr", "run.stdin", "run.args",
+                                        "link", "README"};
 
 bool update_mode() {
   const char* u = std::getenv("YCC_GOLDEN_UPDATE");
@@ -60,7 +61,8 @@ struct Outcome {
 
 // Runs argv[0] = name with the given words in `dir`, capturing both streams.
 Outcome run_in(const fs::path& dir, const std::string& exe, const std::string& name,
-               const std::vector<std::string>& words, const std::vector<std::string>& env) {
+               const std::vector<std::string>& words, const std::vector<std::string>& env,
+               const fs::path& input = "/dev/null") {
   fs::path out_file = dir / ".golden.stdout", err_file = dir / ".golden.stderr";
   pid_t pid = fork();
   if (pid == 0) {
@@ -70,7 +72,8 @@ Outcome run_in(const fs::path& dir, const std::string& exe, const std::string& n
       size_t eq = e.find('=');
       if (eq != std::string::npos) setenv(e.substr(0, eq).c_str(), e.substr(eq + 1).c_str(), 1);
     }
-    if (!freopen(out_file.c_str(), "w", stdout) || !freopen(err_file.c_str(), "w", stderr))
+    if (!freopen(input.c_str(), "r", stdin) || !freopen(out_file.c_str(), "w", stdout) ||
+        !freopen(err_file.c_str(), "w", stderr))
       _exit(127);
     std::vector<char*> argv;
     argv.push_back(const_cast<char*>(name.c_str()));
@@ -144,8 +147,11 @@ bool have(const std::string& tool) {
 // Runs the program and compares what it did with the expected files.
 void compare_run(const fs::path& case_dir, const fs::path& work, const std::vector<std::string>& command,
                  const std::string& label) {
+  // The program's own words follow its name; its standard input is run.stdin.
   std::vector<std::string> words(command.begin() + 1, command.end());
-  Outcome ran = run_in(work, command[0], command[0], words, {});
+  for (const std::string& w : words_of(slurp(case_dir / "run.args"))) words.push_back(w);
+  fs::path input = fs::exists(case_dir / "run.stdin") ? case_dir / "run.stdin" : fs::path("/dev/null");
+  Outcome ran = run_in(work, command[0], command[0], words, {}, input);
   compare_text(case_dir / "run.stdout", ran.out, label + " program stdout");
   compare_text(case_dir / "run.stderr", ran.err, label + " program stderr");
   compare_status(case_dir / "run.status", ran.status, label + " program status");
@@ -242,7 +248,11 @@ int main(int argc, char** argv) {
     while (std::getline(in, line))
       if (!line.empty()) env.push_back(line);
   }
-  Outcome o = run_in(work, ycc.string(), "ycc", words_of(slurp(case_dir / "args")), env);
+  // "@RUNTIME@" stands for the run-time library's directory (its header).
+  std::vector<std::string> ycc_words = words_of(slurp(case_dir / "args"));
+  for (std::string& w : ycc_words)
+    if (w == "@RUNTIME@") w = runtime.string();
+  Outcome o = run_in(work, ycc.string(), "ycc", ycc_words, env);
   compare_text(case_dir / "stdout", o.out, "stdout");
   compare_text(case_dir / "stderr", o.err, "stderr");
   compare_status(case_dir / "status", o.status, "exit status");
