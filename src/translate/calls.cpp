@@ -111,7 +111,7 @@ void Translator::call(const CallInfo& info) {
 
   // ---- The C text.
   std::string value;
-  int value_bits = 0, value_sym = 0;
+  int value_bits = 0, value_sym = 0, value_dims = 0;
   char value_kind = 0;
   Code text;
   for (int k = first; k <= top_index(); ++k) {
@@ -120,6 +120,21 @@ void Translator::call(const CallInfo& info) {
                                       by_reference(lists.params[static_cast<size_t>(k - args_at)], o));
     if (written) o.code.rewrite_written();
     text += std::move(o.code);
+  }
+  // A call used as a value: its first return, in a temporary.
+  if (site.signature && info.return_count == 0 && !symbols_[site.signature].name.empty()) {
+    FunctionLists l = lists.returns.empty() && lists.params.empty() ? function_lists(symbols_, site.signature) : lists;
+    if (!l.returns.empty()) {
+      int r = l.returns[0];
+      value = return_temporary(r);
+      value_dims = symbols_[r].dim_count();
+      value_bits = symbols_.type_bits_of(r);
+      value_sym = symbols_.resolve_type(symbols_[r].type_sym);
+      if (value_sym) {
+        char k = symbols_[value_sym].name_is;
+        value_kind = k == 's' ? 's' : k == 'e' ? 'e' : k == 'n' ? 'n' : 0;
+      }
+    }
   }
   if (!reported && site.signature && diag_.errors == 0) {
     const LibraryFunction* row = site.library >= 0 ? &library_function(site.library) : nullptr;
@@ -133,17 +148,7 @@ void Translator::call(const CallInfo& info) {
       if (i < info.return_count) {
         target = argument_object(operand(returns_at + i));
       } else {
-        int r = lists.returns[static_cast<size_t>(i)];
-        target = return_temporary(r);
-        if (i == 0) {
-          value = symbols_[r].dim_count() > 0 ? target : target;
-          value_bits = symbols_.type_bits_of(r);
-          value_sym = symbols_.resolve_type(symbols_[r].type_sym);
-          if (value_sym) {
-            char k = symbols_[value_sym].name_is;
-            value_kind = k == 's' ? 's' : k == 'e' ? 'e' : k == 'n' ? 'n' : 0;
-          }
-        }
+        target = i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]);
       }
       t += strf("\n%s[%d] = &(%s);", actuals.c_str(), i + 1, target.c_str());
     }
@@ -197,6 +202,7 @@ void Translator::call(const CallInfo& info) {
     e.empty = true;
   } else {
     e.value = value;
+    e.dims = value_dims;
     e.type_bits = value_kind ? 0 : value_bits;
     e.type_sym = value_sym;
     e.kind = value_kind;
