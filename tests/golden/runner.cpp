@@ -192,12 +192,13 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
     words.push_back("-o");
     words.push_back(exe);
     words.push_back(c_file);
+    // A file without a main of its own links with a stand-in, which the
+    // library's program start then does not replace.
     if (link_only) {
       spill(work / "stand_in_main.c", "int main(void) { return 0; }\n");
       words.push_back("stand_in_main.c");
-    } else {
-      words.push_back(library.string());
     }
+    words.push_back(library.string());
     words.push_back("-lm");
     std::string path = std::string("/usr/bin/") + cc.name;
     Outcome built = run_in(work, path, cc.name, words, {});
