@@ -62,6 +62,7 @@ struct FunctionContext {
   bool added_length_declared = false;
   int added_length_used = 0;  // line of the first use
   bool cast_assigned = false;
+  bool ccs_declared = false;  // the running pointer of cast sequences
 
   // Loop counters declared for the walks of assignments and free.
   int walk_counters = 0;

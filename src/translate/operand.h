@@ -128,6 +128,7 @@ struct Operand {
   int line = 0;
   bool partial = false;   // a partially elided space
   bool string_literal = false;
+  std::string cast_record;  // a casted character space: the space's record
   std::string format;     // a string literal's text between its quotes
   std::shared_ptr<Reference> ref;  // while it is a space reference
 

@@ -593,6 +593,7 @@ bool Translator::character_space_cast(int i, const TypeName& type) {
   e.code += component_checks(sym, record, subs, name, e.line, added);
   e.value = "(*" + element_address(sym, record, subs) + ")";
   e.casted = true;
+  e.cast_record = record;
   e.dims = 0;
   e.partial = false;
   e.type_bits = t ? 0 : type.type_bits;

@@ -209,6 +209,8 @@ class Translator {
   void aggregate_assignment(int left, bool move, const std::string& op, bool reported, int line);
   void zero_assignment(int left, bool reported, int line);
   void cast_assignment(int left, bool reported, int line);
+  // A structure that holds varspaces through a casted character space.
+  void cast_sequence(int left, bool store, const std::string& type, int line);
 
   // ---- Calls (calls.cpp, call_checks.cpp, formats.cpp) ----
   std::string exception_test(const CallSite& site, const LibraryFunction* row);

@@ -289,12 +289,16 @@ TEST(TranslateExpressions, AFailedOperandIsReportedOnce) {
                 "6 error: '&&' : the left operand cannot be a structure, the required type is scalar"}));
 }
 
-TEST(TranslateExpressions, NotTranslatedYetFormsAreRefusedClearly) {
+TEST(TranslateExpressions, CastsRefuseSpacesAndValuesWithSpacesInElements) {
   TranslateRun t;
-  t.run(in_function("struct holder h;\nchar buf[64];\n(struct holder) buf[0] = h;",
-                    "struct holder { char var text[]; };\n"));
-  EXPECT_EQ(t.message_list(), (std::vector<std::string>{"6 error: '=' : a value that holds spaces in a casted "
-                                                        "character space is not translated yet"}));
+  t.run(in_function("struct holder h;\nint var v[];\nchar buf[64];\n(struct holder) buf[0] = h;\n(int) buf[0] = v;",
+                    "struct item { char var text[]; };\nstruct holder { struct item list[2]; };\n"));
+  EXPECT_EQ(t.message_list(),
+            (std::vector<std::string>{
+                "8 error: '=' : a value whose spaces lie inside the elements of spaces cannot pass through a casted "
+                "character space",
+                "9 error: '=' : the 0 dimensions of the left operand's casted type is incompatible with the right "
+                "operand's 1 dimension"}));
 }
 
 // ---- String literals ------------------------------------------------------------------------------
