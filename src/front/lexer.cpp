@@ -75,8 +75,21 @@ const Spellings& spellings() {
 
 class Lexer {
  public:
-  Lexer(std::string_view text, FileTable& files, std::ostream& err)
-      : s_(text), files_(files), err_(err) {}
+  // The lexer keeps its own copy of the text: every token's text is a view
+  // into it, so a token costs no copy.
+  Lexer(std::string_view text, FileTable& files, std::ostream& err) : files_(files), err_(err) {
+    try {
+      store_.reserve(text.size() + 1);
+      store_.assign(text.begin(), text.end());
+      store_.push_back('\0');
+      // About one token for every six bytes of typical text; growth covers the rest.
+      tokens_.reserve(text.size() / 6 + 16);
+    } catch (const std::bad_alloc&) {
+      throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
+                                    static_cast<int>(std::min<size_t>(text.size() + 1, INT_MAX)))};
+    }
+    s_ = std::string_view(store_.data(), text.size());
+  }
 
   TokenBuffer run();
 
@@ -134,22 +147,13 @@ class Lexer {
   std::vector<ExternRange> ranges_;
   size_t current_range_ = 0;
   std::vector<Token> tokens_;
-  std::vector<size_t> offsets_;
   std::vector<char> store_;
 };
 
 void Lexer::emit(int tok, std::string_view text) {
   auto count = [](size_t n) { return static_cast<int>(std::min<size_t>(n, INT_MAX)); };
   try {
-    store_.insert(store_.end(), text.begin(), text.end());
-    store_.push_back('\0');
-  } catch (const std::bad_alloc&) {
-    throw TokenBufferFailure{
-        strf("cannot allocate lookahead text buffer (%d bytes)\n", count(store_.size() + text.size() + 1))};
-  }
-  try {
-    offsets_.push_back(store_.size() - text.size() - 1);
-    tokens_.push_back({tok, {}, line_code()});
+    tokens_.push_back({tok, text, line_code()});
   } catch (const std::bad_alloc&) {
     throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n", count(tokens_.size() + 1))};
   }
@@ -352,12 +356,9 @@ TokenBuffer Lexer::run() {
   }
   emit(T_Eof, std::string_view());
   TokenBuffer out;
+  // Moving the vector keeps its block, so the token views stay valid.
   out.text_store = std::move(store_);
   out.tokens = std::move(tokens_);
-  for (size_t i = 0; i < out.tokens.size(); ++i) {
-    size_t len = (i + 1 < offsets_.size() ? offsets_[i + 1] : out.text_store.size()) - offsets_[i] - 1;
-    out.tokens[i].text = std::string_view(out.text_store.data() + offsets_[i], len);
-  }
   out.extern_ranges = std::move(ranges_);
   out.index_extern_ranges();
   return out;

@@ -20,9 +20,9 @@ struct ExternRange {
   int end = 0;
 };
 
-// Every token of one file, up to and including Eof. Token texts point into
-// `text_store` (each text NUL-terminated), which the buffer owns; the buffer
-// can be moved but not copied, so the texts never dangle.
+// Every token of one file, up to and including Eof. Token texts are views of
+// `text_store`, the lexer's copy of the file's text, which the buffer owns;
+// the buffer can be moved but not copied, so the texts never dangle.
 struct TokenBuffer {
   std::vector<Token> tokens;
   std::vector<ExternRange> extern_ranges;

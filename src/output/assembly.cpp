@@ -27,37 +27,72 @@ void write_all(std::FILE* out, std::string_view text, const std::string& name) {
     output_write_failed(name);
 }
 
-// Reads one line with its newline (the last may lack one); false at the end.
-bool read_line(std::FILE* in, std::string& line) {
-  line.clear();
-  char buf[50000];
-  while (std::fgets(buf, sizeof buf, in)) {
-    line += buf;
-    if (!line.empty() && line.back() == '\n') return true;
+// Reads the work file in large pieces and hands over whole lines.
+class LineReader {
+ public:
+  explicit LineReader(std::FILE* in) : in_(in) {}
+  // The next line with its newline (the last may lack one); false at the end.
+  bool next(std::string_view& line) {
+    for (;;) {
+      size_t nl = buffer_.find('\n', at_);
+      if (nl != std::string::npos) {
+        line = std::string_view(buffer_).substr(at_, nl + 1 - at_);
+        at_ = nl + 1;
+        return true;
+      }
+      if (eof_) {
+        if (at_ >= buffer_.size()) return false;
+        line = std::string_view(buffer_).substr(at_);
+        at_ = buffer_.size();
+        return true;
+      }
+      buffer_.erase(0, at_);
+      at_ = 0;
+      size_t old = buffer_.size();
+      buffer_.resize(old + chunk);
+      size_t got = std::fread(buffer_.data() + old, 1, chunk, in_);
+      buffer_.resize(old + got);
+      if (got < chunk) {
+        if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
+        eof_ = true;
+      }
+    }
   }
-  if (std::ferror(in))
-    fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
-  return !line.empty();
-}
+
+ private:
+  static constexpr size_t chunk = 1 << 20;
+  std::FILE* in_;
+  std::string buffer_;
+  size_t at_ = 0;
+  bool eof_ = false;
+};
 
 }  // namespace
 
 void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
   RegionFilter filter(options_.bounds_checks);
-  std::string line;
-  while (read_line(work_file_, line)) {
+  LineReader reader(work_file_);
+  std::string kept;  // written out in large pieces
+  std::string_view line;
+  while (reader.next(line)) {
     std::string_view body(line);
     if (body.ends_with('\n')) body.remove_suffix(1);
     // Merge markers come first, so one inside a dropped part is still replaced.
     if (body.starts_with("#merge ")) {
+      std::string number(body.substr(7));
       char* end = nullptr;
-      long n = std::strtol(line.c_str() + 7, &end, 10);
-      if (end != line.c_str() + 7 && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
-        write_all(out, *merge(static_cast<int>(n)).data, output_name);
-      continue;
+      long n = std::strtol(number.c_str(), &end, 10);
+      if (end != number.c_str() && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
+        kept += *merge(static_cast<int>(n)).data;
+    } else if (filter.keep(body)) {
+      kept += line;
     }
-    if (filter.keep(body)) write_all(out, line, output_name);
+    if (kept.size() >= (1u << 20)) {
+      write_all(out, kept, output_name);
+      kept.clear();
+    }
   }
+  write_all(out, kept, output_name);
 }
 
 void Workspace::assemble(const std::string& output_name) {

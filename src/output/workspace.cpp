@@ -66,31 +66,37 @@ void Workspace::put_text(char newline_bgn, std::string_view text) {
   }
 }
 
-void Workspace::write_byte(char c) {
-  if (std::fputc(c, file_) == EOF) write_failed(file_ == work_file_ ? std::string() : output_name_);
-}
-
 void Workspace::write_file(std::string_view prefix, std::string_view text) {
   if (!file_) file_ = work_file_;
   YCC_CHECK(file_ != nullptr, source_name);
-  for (char c : prefix) write_byte(c);
+  // Composed in memory, written with one call: the breaking looks at every
+  // byte, the stream need not.
+  std::string& out = line_buffer_;
+  out.assign(prefix);
+  out.reserve(prefix.size() + text.size() + text.size() / 32 + 8);
+  int column = column_, backslashes = backslashes_;
+  char quote = quote_;
   for (char c : text) {
-    write_byte(c);
-    column_ = c == '\n' ? 0 : column_ + 1;
+    out.push_back(c);
+    column = c == '\n' ? 0 : column + 1;
     // A literal closes at its own quote preceded by an even run of backslashes.
-    bool was_open = quote_ != 0;
+    bool was_open = quote != 0;
     if (!was_open) {
-      if (c == '\'' || c == '"') quote_ = c;
-    } else if (c == quote_ && backslashes_ % 2 == 0) {
-      quote_ = 0;
+      if (c == '\'' || c == '"') quote = c;
+    } else if (c == quote && backslashes % 2 == 0) {
+      quote = 0;
     }
-    backslashes_ = (was_open && c == '\\') ? backslashes_ + 1 : 0;
-    if (column_ > output_width && (c == ' ' || c == ',') && quote_ == 0) {
-      write_byte('\n');
-      write_byte(' ');
-      column_ = 1;
+    backslashes = (was_open && c == '\\') ? backslashes + 1 : 0;
+    if (column > output_width && (c == ' ' || c == ',') && quote == 0) {
+      out.append("\n ");
+      column = 1;
     }
   }
+  column_ = column;
+  backslashes_ = backslashes;
+  quote_ = quote;
+  if (!out.empty() && std::fwrite(out.data(), 1, out.size(), file_) != out.size())
+    write_failed(file_ == work_file_ ? std::string() : output_name_);
 }
 
 void Workspace::indent_in() {

@@ -117,7 +117,6 @@ class Workspace {
   };
   // Writes to the current file with the 72-column breaking.
   void write_file(std::string_view prefix, std::string_view text);
-  void write_byte(char c);
   void write_marker(int slot);
   void copy_work_file(std::FILE* out, const std::string& output_name);
   void move_to_own(int slot);
@@ -131,6 +130,7 @@ class Workspace {
   int indent_ = 0;
   int column_ = 0;
   char quote_ = 0;  // open quote character, 0 outside literals
+  std::string line_buffer_;  // what one write composes
   int backslashes_ = 0;
   std::vector<MergeSlot> merge_;
   char output_started_ = 'n';
