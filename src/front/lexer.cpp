@@ -52,19 +52,35 @@ bool is_hex_digit(char c) {
 bool is_garbage(char c) { return c == '#' || c == '$' || c == '@' || c == '\\' || c == '`'; }
 
 // Keywords and punctuators, both taken from the token table.
+// The spellings of tokens.def, sorted for lookups that hash nothing:
+// punctuators by their first character, longest first; keywords by their
+// first letter (every keyword begins with a lower-case letter).
+struct Spelling {
+  std::string_view text;
+  int number;
+};
 struct Spellings {
-  std::unordered_map<std::string_view, int> keywords;
-  std::unordered_map<std::string_view, int> punctuators;
+  std::vector<Spelling> punctuators[128];
+  std::vector<Spelling> keywords[26];
   Spellings() {
-#define TOKEN(number, name, spelling)                                  \
-  if (std::string_view(spelling).empty()) {                           \
-  } else if (is_ident_start(spelling[0])) {                           \
-    keywords.emplace(spelling, number);                               \
-  } else {                                                            \
-    punctuators.emplace(spelling, number);                            \
+#define TOKEN(number, name, spelling)                                             \
+  if (std::string_view(spelling).empty()) {                                      \
+  } else if (is_ident_start(spelling[0])) {                                      \
+    keywords[spelling[0] - 'a'].push_back({spelling, number});                   \
+  } else {                                                                       \
+    punctuators[static_cast<unsigned char>(spelling[0])].push_back({spelling, number}); \
   }
 #include "front/tokens.def"
 #undef TOKEN
+    for (auto& list : punctuators)
+      std::sort(list.begin(), list.end(),
+                [](const Spelling& a, const Spelling& b) { return a.text.size() > b.text.size(); });
+  }
+  int keyword(std::string_view word) const {
+    if (word[0] < 'a' || word[0] > 'z') return T_IDENTIFIER;
+    for (const Spelling& k : keywords[word[0] - 'a'])
+      if (k.text == word) return k.number;
+    return T_IDENTIFIER;
   }
 };
 
@@ -320,8 +336,7 @@ void Lexer::normal_step() {
   } else if (is_ident_start(c)) {
     while (is_ident_char(at(pos_))) ++pos_;
     std::string_view word = s_.substr(begin, pos_ - begin);
-    auto it = spellings().keywords.find(word);
-    emit(it == spellings().keywords.end() ? T_IDENTIFIER : it->second, word);
+    emit(spellings().keyword(word), word);
   } else if (c == '"' || c == '\'') {
     // An unclosed constant ends before its newline, which normal mode counts.
     pos_ = quoted_end(pos_, c);
@@ -330,13 +345,11 @@ void Lexer::normal_step() {
     while (is_garbage(at(pos_))) ++pos_;
     emit(T_GARBAGE, begin, pos_);
   } else {
-    const auto& punct = spellings().punctuators;
-    for (size_t len = 3; len >= 1; --len) {
-      if (pos_ + len > s_.size()) continue;
-      auto it = punct.find(s_.substr(pos_, len));
-      if (it != punct.end()) {
-        pos_ += len;
-        emit(it->second, begin, pos_);
+    // The longest punctuator that matches wins.
+    for (const Spelling& p : spellings().punctuators[static_cast<unsigned char>(c) & 127]) {
+      if (static_cast<unsigned char>(c) < 128 && s_.substr(pos_, p.text.size()) == p.text) {
+        pos_ += p.text.size();
+        emit(p.number, begin, pos_);
         return;
       }
     }
