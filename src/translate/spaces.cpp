@@ -5,6 +5,9 @@
 // checks of a read and of a write between marker lines; the construct that
 // uses it (an assignment, a subscript) rewrites the markers, and the output
 // assembly keeps the version that applies.
+#include <cctype>
+#include <string_view>
+
 #include "common/text.h"
 #include "decl/type_keywords.h"
 #include "translate/translator.h"
@@ -92,6 +95,23 @@ std::string Translator::subscript_source(const Token& lbracket) const {
   return text;
 }
 
+namespace {
+
+// Whether a subscript's text reads a space's limit or occurs.
+bool reads_space_record(std::string_view text) {
+  for (std::string_view field : {std::string_view(".occurs"), std::string_view(".limit")}) {
+    for (size_t at = text.find(field); at != std::string_view::npos; at = text.find(field, at + 1)) {
+      size_t end = at + field.size();
+      if (end == text.size() || !(std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_') ||
+          field == ".limit")
+        return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
 void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
   bool has_expression = kind == SubscriptKind::Expression;
   ensure_operands(has_expression ? 2 : 1, lbracket.line);
@@ -113,10 +133,12 @@ void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
       }
     }
     // A reference inside a subscript is always read; a subscript that needs
-    // code of its own is evaluated once, into a temporary.
+    // code of its own is evaluated once, into a temporary. So is one that
+    // reads a limit or occurs: the growth and the occurs update change those
+    // before the element's address is taken (s[s.occurs] = c appends).
     Operand x_op = pop_operand();
     sub.text = x_op.value;
-    if (!x_op.code.empty()) {
+    if (!x_op.code.empty() || reads_space_record(x_op.value)) {
       x_op.code.rewrite_embedded();
       code(i) += std::move(x_op.code);
       if (ok) {
