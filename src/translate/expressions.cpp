@@ -167,9 +167,9 @@ void Translator::sizeof_type(const Token& keyword) {
   }
   int t = type.type_sym;
   if (t && symbols_[t].name_is == 's')
-    e.value = strf("sizeof(struct %s)", symbols_[t].name.c_str());
+    e.value = "sizeof(struct " + decl_.emitter().tag_name(t) + ")";
   else if (t && symbols_[t].name_is == 'e')
-    e.value = strf("sizeof(enum %s)", symbols_[t].name.c_str());
+    e.value = "sizeof(enum " + decl_.emitter().tag_name(t) + ")";
   else if (t)
     e.value = "sizeof(void(*)())";
   else

@@ -26,6 +26,10 @@ struct pair {
    int b;
 };
 
+struct zz4_tag {
+   int a;
+};
+
 void f(void *zzzz_return_ptr[], int i);
 
 void f(void *zzzz_return_ptr[], int i)
@@ -37,17 +41,24 @@ struct zz2D_meta m = {NULL};
 struct zz1D_meta v = {NULL};
 struct pair p;
 void (*h) (void *[], int);
+struct local {
+   char c;
+};
+
+struct local l;
 unsigned zzzz_unsigned1;
 
 if((signed)(1) < 0 || (unsigned)(1) >= (m.limit1))
-   zzzz_bounds_exceeded("m", 12, 2, (unsigned)(1), (unsigned)(m.limit1));
+   zzzz_bounds_exceeded("m", 14, 2, (unsigned)(1), (unsigned)(m.limit1));
 zzzz_unsigned1 = sizeof(double)* m.limit2;
 r = sizeof(double)* m.limit1* m.limit2 + zzzz_unsigned1 + sizeof(struct pair) 
  + sizeof(void(*)()) + sizeof(struct pair) + sizeof(unsigned long);
 if((signed)(i) < 0 || (unsigned)(i) >= (v.occurs))
-   zzzz_bounds_exceeded("v", 13, 2, (unsigned)(i), (unsigned)(v.occurs));
+   zzzz_bounds_exceeded("v", 15, 2, (unsigned)(i), (unsigned)(v.occurs));
 zzzz_unsigned1 = sizeof(int);
 r = zzzz_unsigned1;
+r = sizeof(struct zz4_tag) + sizeof(struct local);
+l.c = 'a';
 
 zzzz_finish: ;
 
