@@ -1,3 +1,4 @@
+#include "common/c_names.h"
 #include "decl/emit.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ int Emitter::body_end(int sub) const {
 
 std::string Emitter::function_name(int sub) const {
   const std::string& n = symbols_[sub].name;
-  return find_library_function(n) >= 0 ? "_yc__" + n : n;
+  return find_library_function(n) >= 0 ? "_yc__" + n : c_name(n);
 }
 
 std::string Emitter::element_type(int sub) const {
@@ -43,7 +44,7 @@ std::string Emitter::fun_pointer(int fun, const std::string& name) const {
 
 std::string Emitter::parameter(int sub, bool with_name) const {
   const Symbol& s = symbols_[sub];
-  std::string name = with_name && !s.anonymous() ? s.name : "";
+  std::string name = with_name && !s.anonymous() ? c_name(s.name) : "";
   auto join = [&](const std::string& type) { return name.empty() ? type : type + " " + name; };
   if (s.role[0] == 'a') return join("void *");
   if (s.dim_count() > 0) return "struct " + names_.meta_type(s.dim_count()) + " *" + name;
@@ -120,7 +121,7 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
   if (s.storage & STORAGE_STATIC) t += "static ";
   if (is_extern) t += "extern ";
   if (s.is_var == 'y') {
-    t += "struct " + names_.meta_type(s.dim_count()) + " " + s.name;
+    t += "struct " + names_.meta_type(s.dim_count()) + " " + c_name(s.name);
     if (!is_extern && !member) t += " = {NULL}";
     return t + ";";
   }
@@ -130,9 +131,9 @@ std::string Emitter::variable_text(int sub, bool member, bool local) const {
   int f = symbols_.resolve_type(s.type_sym);
   // An array of function pointers: the dimensions go inside the declarator.
   if (f && symbols_[f].name_is == 'n')
-    t += fun_pointer(f, s.name + dims);
+    t += fun_pointer(f, c_name(s.name) + dims);
   else
-    t += element_type(sub) + " " + s.name + dims;
+    t += element_type(sub) + " " + c_name(s.name) + dims;
   // A structure with fixed-space members gets their companions in its
   // initializer when it has one or when it has static storage; a local
   // without initializer sets them up in its init code.
@@ -185,7 +186,7 @@ std::string Emitter::companion_designators(int sub) const {
     for (int m : symbols_[w.tag].vf) {
       const Symbol& ms = symbols_[m];
       if (ms.is_var == 'y') continue;
-      std::string path = w.path + "." + ms.name;
+      std::string path = w.path + "." + c_name(ms.name);
       int t = symbols_.resolve_type(ms.type_sym);
       bool nests = t && symbols_[t].name_is == 's' && symbols_[t].vf_flags[1] == 'y';
       if (ms.dim_count() == 0) {
@@ -197,7 +198,7 @@ std::string Emitter::companion_designators(int sub) const {
       for (const auto& [at, n] : v.member_occurs)
         if (at == path) occurs = n;
       if (!out.empty()) out += ", ";
-      out += strf("%s.%s = {(void *)%s%s", w.path.c_str(), names_.companion(ms.name).c_str(), v.name.c_str(),
+      out += strf("%s.%s = {(void *)%s%s", w.path.c_str(), names_.companion(ms.name).c_str(), c_name(v.name).c_str(),
                   path.c_str());
       if (ms.dim_count() == 1) out += strf(",%d", occurs);
       for (const Dimension& d : ms.dims) out += strf(",%d", d.size);
@@ -216,7 +217,7 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
   if (is_extern) t += "extern ";
   t += strf("struct %s %s_%s", names_.meta_type(s.dim_count()).c_str(), names_.prefix().c_str(), s.name.c_str());
   if (!is_extern && !member) {
-    t += local && !is_static ? std::string(" = {NULL") : " = {(void *)" + s.name;
+    t += local && !is_static ? std::string(" = {NULL") : " = {(void *)" + c_name(s.name);
     if (s.dim_count() == 1) t += strf(",%d", initial_occurs);
     for (const Dimension& d : s.dims) t += strf(",%d", d.size);
     t += "}";
@@ -271,7 +272,7 @@ void Emitter::emit_enum(int sub) {
     const Symbol& s = symbols_[c];
     if (s.owner != sub || s.name_is != 'c') continue;
     if (!pending.empty()) out('y', pending + ",");
-    pending = strf("%s = %d", s.name.c_str(), ++number);
+    pending = c_name(s.name) + strf(" = %d", ++number);
   }
   if (!pending.empty()) out('y', pending);
   out_dent();
@@ -335,9 +336,9 @@ void Emitter::local_declaration(int sub, bool nested) {
   std::string companion = fixed ? companion_text(sub, false, true, s.initial_occurs) : "";
   std::string init;
   if (fixed && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
-    init = strf("\n%s_%s.ptr = %s;", names_.prefix().c_str(), s.name.c_str(), s.name.c_str());
+    init = strf("\n%s_%s.ptr = %s;", names_.prefix().c_str(), s.name.c_str(), c_name(s.name).c_str());
   if (s.is_var == 'n' && !(s.storage & (STORAGE_STATIC | STORAGE_EXTERN)))
-    walk_varspaces(sub, s.name, companion_name(sub), false, init);
+    walk_varspaces(sub, c_name(s.name), companion_name(sub), false, init);
   if (!nested) {
     ws_.wd_locals += "\n" + decl;
     if (fixed) ws_.wd_locals += "\n" + companion;
@@ -384,10 +385,10 @@ void Emitter::function_heading(int f, bool definition) {
     bool is_struct = t && symbols_[t].name_is == 's';
     if (r.dim_count() > 0 || is_struct) {
       std::string type = r.dim_count() > 0 ? names_.meta_type(r.dim_count()) : tag_name(t);
-      ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), r.name.c_str(),
+      ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), c_name(r.name).c_str(),
                             type.c_str(), ret.c_str(), static_cast<int>(i + 1));
-      if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", r.name.c_str());
-      if (is_struct) walk_varspaces(returns[i], "(*" + r.name + ")", "", false, ws_.wd_init_code);
+      if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", c_name(r.name).c_str());
+      if (is_struct) walk_varspaces(returns[i], "(*" + c_name(r.name) + ")", "", false, ws_.wd_init_code);
       ws_.note_dimensions(r.dim_count());
     } else {
       ws_.wd_locals += "\n" + variable_text(returns[i], false, true);
@@ -409,10 +410,10 @@ void Emitter::function_closing(int f) {
     if (t && symbols_[t].name_is == 'n')
       // A pointer to the caller's function pointer: "void (**) (...)".
       ws_.put_text('n', strf("\n*((%s)(%s[%d])) = %s;", fun_pointer(t, "*").c_str(), ret.c_str(), index,
-                             r.name.c_str()));
+                             c_name(r.name).c_str()));
     else
       ws_.put_text('n', strf("\n*((%s *)(%s[%d])) = %s;", element_type(p).c_str(), ret.c_str(), index,
-                             r.name.c_str()));
+                             c_name(r.name).c_str()));
   }
   free_block_varspaces(f + 1);
   // What the translation left for the exit (the blocks of call temporaries).
@@ -506,7 +507,7 @@ void Emitter::free_block_varspaces(int first) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
     if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN)) continue;
-    walk_varspaces(sub, s.name, s.is_var == 'y' ? s.name : companion_name(sub), true, out);
+    walk_varspaces(sub, c_name(s.name), s.is_var == 'y' ? c_name(s.name) : companion_name(sub), true, out);
   }
   if (!out.empty()) ws_.put_text('n', out);
 }

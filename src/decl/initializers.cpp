@@ -1,3 +1,4 @@
+#include "common/c_names.h"
 #include "decl/initializers.h"
 
 #include <algorithm>
@@ -199,7 +200,7 @@ class InitWalk {
         if (!first) out_ += ", ";
         first = false;
         size_t mark = path_.size();
-        path_ += "." + sy_[m].name;
+        path_ += "." + c_name(sy_[m].name);
         occurs_ = 0;
         walk(m, 0, t);
         // The member's companion meta record follows it in the C structure;
@@ -308,7 +309,7 @@ class InitWalk {
         return;
       }
       ++sy_[found].ref_count;
-      out_ += sy_[found].name;
+      out_ += c_name(sy_[found].name);
       return;
     }
     if (kind == 'n') {

@@ -1,3 +1,4 @@
+#include "common/c_names.h"
 #include "decl/space_walk.h"
 
 #include "common/text.h"
@@ -101,7 +102,7 @@ void SpaceWalker::walk_frames(Frame0 root, const std::string& object, const std:
           Frame child{m, f.depth + (f.stage == Stage::elements ? f.loops : 0), {0, 0}, {}, Stage::start, 0, 0, {}, 0};
           for (int i = 0; i < paths; ++i) {
             child.base[i] = path[i].size();
-            path[i].append(1, '.').append(symbols_[m].name);
+            path[i].append(1, '.').append(c_name(symbols_[m].name));
             // A member's record: a varspace is one, a fixed-space has its companion.
             if (symbols_[m].is_var == 'y')
               child.record[i] = path[i];

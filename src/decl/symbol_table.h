@@ -11,6 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "common/c_names.h"
 #include "common/names.h"
 
 namespace ycc {
@@ -79,7 +80,7 @@ struct Symbol {
 
 // The C name of a structure, enumeration or fun tag, anonymous ones included.
 inline std::string c_tag_name(const Symbol& s, const Names& names) {
-  return s.anonymous() ? names.anonymous_tag(s.serial) : s.name;
+  return s.anonymous() ? names.anonymous_tag(s.serial) : c_name(s.name);
 }
 
 class SymbolTable {

@@ -4,6 +4,7 @@
 // remains, so the target's former blocks are released first and a moved
 // varspace leaves its source empty. `= 0` zeroes an aggregate, a casted
 // character space stores or loads a value byte by byte, and `free` releases.
+#include "common/c_names.h"
 #include "common/text.h"
 #include "decl/type_keywords.h"
 #include "translate/translator.h"
@@ -364,7 +365,7 @@ void Translator::zero_assignment(int left, bool reported, int line) {
         const Symbol& ms = symbols_[m];
         if (ms.owner != w.tag || ms.name_class != 'c' || ms.dim_count() > 0) continue;
         int t = symbols_.resolve_type(ms.type_sym);
-        std::string path = strf("%s.%s", w.path.c_str(), ms.name.c_str());
+        std::string path = w.path + "." + c_name(ms.name);
         if (t && symbols_[t].name_is == 's')
           inner.push_back({t, path});
         else

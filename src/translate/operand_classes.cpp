@@ -1,5 +1,6 @@
 // Operand classes, arithmetic type rules and the kinds that identifier
 // references give their entries.
+#include "common/c_names.h"
 #include "common/text.h"
 #include "decl/functions.h"
 #include "decl/library_table.h"
@@ -105,7 +106,7 @@ bool Translator::same_function_type(int a, int b) const {
 void Translator::fill_from_symbol(Operand& e, int sub) {
   Symbol& s = symbols_[sub];
   ++s.ref_count;
-  e.value = s.name;
+  e.value = c_name(s.name);
   switch (s.name_is) {
     case 'v': {
       int t = symbols_.resolve_type(s.type_sym);

@@ -8,6 +8,7 @@
 #include <cctype>
 #include <string_view>
 
+#include "common/c_names.h"
 #include "common/text.h"
 #include "decl/type_keywords.h"
 #include "translate/translator.h"
@@ -38,7 +39,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   const Symbol& s = symbols_[sym];
   // Space and structure parameters and returns arrive as pointers.
   bool pointer = container.empty() && (s.p_or_r == 'p' || s.p_or_r == 'r');
-  std::string name = container.empty() ? s.name : container + "." + s.name;
+  std::string name = container.empty() ? c_name(s.name) : container + "." + c_name(s.name);
   r.sym = sym;
   if (container.empty()) r.root = sym;
   r.path.emplace_back(sym, false);
@@ -51,7 +52,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   bool structure = t && symbols_[t].name_is == 's';
   if (s.dim_count() > 0) {
     if (pointer)
-      r.record = "(*" + s.name + ")";
+      r.record = "(*" + name + ")";
     else if (s.is_var == 'y')
       r.record = name;
     else
@@ -66,7 +67,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
         r.checks += strf("\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
     }
   } else {
-    r.object = pointer && structure ? "(*" + s.name + ")" : name;
+    r.object = pointer && structure ? "(*" + name + ")" : name;
     e.value = r.object;
   }
   e.type_bits = symbols_.type_bits_of(sym);

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "common/c_names.h"
 #include "common/text.h"
 #include "translate/translator.h"
 
@@ -218,7 +219,7 @@ void Translator::goto_stmt(const Token& label) {
   } else {
     ++found->second.referenced;
   }
-  code(top_index()) += "\ngoto " + name + ";";
+  code(top_index()) += "\ngoto " + c_name(name) + ";";
 }
 
 void Translator::continue_stmt(const Token& keyword) {
@@ -297,7 +298,7 @@ void Translator::statement_label(const Token& name) {
   if (++info.defined > 1)
     diag_.error(name.line,
                 strf("statement label '%s' is a duplicate: defined elsewhere in this function", n.c_str()));
-  if (!fn().labels_pending.empty()) fn().labels_pending.back() = "\n" + n + ":";
+  if (!fn().labels_pending.empty()) fn().labels_pending.back() = "\n" + c_name(n) + ":";
 }
 
 void Translator::case_label(CaseForm form, int mode, const Token& value) {
@@ -317,7 +318,7 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
     std::string name(value.text);
     int sub = symbols_.find_other('o', name, 0);
     if (sub) ++symbols_[sub].ref_count;
-    if (pending) *pending = "\ncase " + name + ":";
+    if (pending) *pending = "\ncase " + c_name(name) + ":";
     if (!sw.enum_type) {
       diag_.error(value.line,
                   strf("invalid case label: unless the switch expression is an enumeration variable (it "

@@ -176,10 +176,16 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       {"tcc", "tcc", ""},
       {"gcc", "gcc-sanitized", "-std=c99 -fsanitize=address,undefined -fno-sanitize-recover=undefined"},
   };
-  int built_any = 0;
+  if (!fs::exists(work / c_file)) {
+    ++failures;
+    std::cout << "--- ycc did not write " << c_file << ": nothing to build\n";
+    return;
+  }
+  int installed = 0;
   for (const Cc& cc : compilers) {
     if (!have(cc.name)) continue;
     if (link_only && std::string(cc.label) != cc.name) continue;
+    ++installed;
     fs::path library = libs / cc.label / "libycrt.a";
     if (!link_only && !fs::exists(library)) {
       ++failures;
@@ -207,7 +213,6 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
       std::cout << "--- " << cc.label << " failed to build " << c_file << ":\n" << built.err;
       continue;
     }
-    ++built_any;
     if (link_only) continue;
     compare_run(case_dir, work, {(work / exe).string()}, cc.label);
     if (std::string(cc.label) == "gcc" && have("valgrind"))
@@ -216,7 +221,7 @@ void run_program(const fs::path& case_dir, const fs::path& work, const fs::path&
                    "--errors-for-leak-kinds=definite,indirect", (work / exe).string()},
                   "valgrind gcc");
   }
-  if (built_any == 0) {
+  if (installed == 0) {
     ++failures;
     std::cout << "--- no C compiler is installed: the program was not built\n";
   }
