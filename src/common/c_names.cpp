@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace ycc {
 
@@ -80,9 +81,20 @@ constexpr std::array<std::string_view, 468> c_header_names = {
 };
 static_assert(std::is_sorted(c_header_names.begin(), c_header_names.end()));
 
+// For each first character, the lengths (below 64) of the names that begin
+// with it: most user names are ruled out without a search.
+constexpr std::array<std::uint64_t, 128> lengths_by_first = [] {
+  std::array<std::uint64_t, 128> bits{};
+  for (std::string_view n : c_header_names) bits[static_cast<unsigned char>(n[0]) & 127] |= std::uint64_t{1} << n.size();
+  return bits;
+}();
+
 }  // namespace
 
 bool clashes_with_c_headers(std::string_view name) {
+  if (name.empty() || name.size() >= 64) return false;
+  unsigned char first = static_cast<unsigned char>(name[0]);
+  if (first >= 128 || !(lengths_by_first[first] >> name.size() & 1)) return false;
   return std::binary_search(c_header_names.begin(), c_header_names.end(), name);
 }
 

@@ -1,12 +1,17 @@
 #include "common/names.h"
 
+#include <charconv>
+
 namespace ycc {
 
 std::string Names::generated(std::string_view word, int number) const {
+  // Most generated names fit the string's own small buffer: no reserve.
   std::string name;
-  name.reserve(2 * prefix_.size() + word.size() + 12);
   name.append(prefix_).append(prefix_).append(1, '_').append(word);
-  if (number >= 1) name += std::to_string(number);
+  if (number >= 1) {
+    char digits[12];
+    name.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+  }
   return name;
 }
 

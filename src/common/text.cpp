@@ -1,5 +1,6 @@
 #include "common/text.h"
 
+#include <charconv>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -8,14 +9,62 @@
 
 namespace ycc {
 
+namespace {
+
+// Whether every conversion of `fmt` is one of %s %d %u %c %%: those are
+// formatted here, without the C library's general machinery, which is most
+// of the cost of composing generated text.
+bool plain_conversions(const char* fmt) {
+  for (const char* p = std::strchr(fmt, '%'); p; p = std::strchr(p + 2, '%')) {
+    char c = p[1];
+    if (c != 's' && c != 'd' && c != 'u' && c != 'c' && c != '%') return false;
+  }
+  return true;
+}
+
+void append_plain(std::string& out, const char* fmt, va_list ap) {
+  char digits[24];
+  for (const char* p = fmt; *p;) {
+    const char* q = std::strchr(p, '%');
+    if (!q) {
+      out.append(p);
+      return;
+    }
+    out.append(p, static_cast<size_t>(q - p));
+    switch (q[1]) {
+      case 's': out.append(va_arg(ap, const char*)); break;
+      case 'c': out.push_back(static_cast<char>(va_arg(ap, int))); break;
+      case '%': out.push_back('%'); break;
+      case 'd': {
+        auto r = std::to_chars(digits, digits + sizeof digits, va_arg(ap, int));
+        out.append(digits, r.ptr);
+        break;
+      }
+      default: {
+        auto r = std::to_chars(digits, digits + sizeof digits, va_arg(ap, unsigned));
+        out.append(digits, r.ptr);
+        break;
+      }
+    }
+    p = q + 2;
+  }
+}
+
+}  // namespace
+
 std::string strf(const char* fmt, ...) {
   va_list ap;
   va_start(ap, fmt);
+  std::string out;
+  if (plain_conversions(fmt)) {
+    append_plain(out, fmt, ap);
+    va_end(ap);
+    return out;
+  }
   va_list ap2;
   va_copy(ap2, ap);
   int n = std::vsnprintf(nullptr, 0, fmt, ap);
   va_end(ap);
-  std::string out;
   if (n > 0) {
     out.resize(static_cast<size_t>(n));
     std::vsnprintf(out.data(), out.size() + 1, fmt, ap2);

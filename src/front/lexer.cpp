@@ -98,8 +98,9 @@ class Lexer {
       store_.reserve(text.size() + 1);
       store_.assign(text.begin(), text.end());
       store_.push_back('\0');
-      // About one token for every six bytes of typical text; growth covers the rest.
-      tokens_.reserve(text.size() / 6 + 16);
+      // Room for a token every two bytes, which ordinary text stays under:
+      // pages never touched cost nothing, and no growth copies the tokens.
+      tokens_.reserve(text.size() / 2 + 16);
     } catch (const std::bad_alloc&) {
       throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
                                     static_cast<int>(std::min<size_t>(text.size() + 1, INT_MAX)))};
@@ -169,7 +170,7 @@ class Lexer {
 void Lexer::emit(int tok, std::string_view text) {
   auto count = [](size_t n) { return static_cast<int>(std::min<size_t>(n, INT_MAX)); };
   try {
-    tokens_.push_back({tok, text, line_code()});
+    tokens_.push_back({text, tok, line_code()});
   } catch (const std::bad_alloc&) {
     throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n", count(tokens_.size() + 1))};
   }

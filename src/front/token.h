@@ -19,8 +19,8 @@ std::string_view token_spelling(int tok);
 // One token: number, text exactly as matched, and line code
 // (file index * 1000000 + line).
 struct Token {
-  int tok;
   std::string_view text;
+  int tok;
   int line;
 };
 

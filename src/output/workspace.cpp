@@ -1,5 +1,6 @@
 #include "output/workspace.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #include "common/text.h"
@@ -76,7 +77,22 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   out.reserve(prefix.size() + text.size() + text.size() / 32 + 8);
   int column = column_, backslashes = backslashes_;
   char quote = quote_;
-  for (char c : text) {
+  for (size_t i = 0; i < text.size();) {
+    if (quote == 0) {
+      // Outside literals, bytes before the width is passed, a newline or a
+      // quote cannot break the line or change the state: one append.
+      size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
+      size_t end = std::min(text.size(), i + room), j = i;
+      while (j < end && text[j] != '\n' && text[j] != '\'' && text[j] != '"') ++j;
+      if (j > i) {
+        out.append(text.data() + i, j - i);
+        column += static_cast<int>(j - i);
+        backslashes = 0;
+        i = j;
+        continue;
+      }
+    }
+    char c = text[i++];
     out.push_back(c);
     column = c == '\n' ? 0 : column + 1;
     // A literal closes at its own quote preceded by an even run of backslashes.

@@ -28,10 +28,14 @@ void Writer::token(std::string_view text, int blanks, bool is_string) {
     out.append(text.substr(1));
     return;
   }
-  flush_held();
-  out.append(static_cast<size_t>(pending_newlines), '\n');
+  if (!held_.empty() || string_open_) flush_held();
+  // Most tokens follow one blank or none: no general append for those.
+  if (pending_newlines > 0) out.append(static_cast<size_t>(pending_newlines), '\n');
   pending_newlines = 0;
-  out.append(static_cast<size_t>(blanks), ' ');
+  if (blanks == 1)
+    out.push_back(' ');
+  else if (blanks > 1)
+    out.append(static_cast<size_t>(blanks), ' ');
   out.append(text);
   // Only a closed literal takes part in joining.
   string_open_ = is_string && text.size() >= 2 && text.back() == '"';

@@ -91,6 +91,14 @@ Token Reader::next(bool checked) {
       ++pos_;
       continue;
     }
+    if (c == ' ') {
+      // Indentation comes in runs.
+      size_t end = pos_ + 1;
+      while (end < t_.size() && t_[end] == ' ') ++end;
+      blanks += static_cast<int>(end - pos_);
+      pos_ = end;
+      continue;
+    }
     if (size_t n = splice_len(pos_)) {
       ++pending_;
       pos_ += n;
@@ -141,6 +149,9 @@ Token Reader::next(bool checked) {
 Token Reader::word(Token tok, Tok kind) {
   size_t start = pos_;
   bool spliced = false;
+  // The common case first: a run of word characters.
+  if (kind == Tok::ident)
+    while (pos_ < t_.size() && is_ident_char(t_[pos_])) ++pos_;
   for (;;) {
     if (size_t n = splice_len(pos_)) {
       spliced = true;

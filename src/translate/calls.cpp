@@ -266,7 +266,7 @@ std::string Translator::argument_text(const CallSite& site, Operand& a, int para
     int t = symbols_.resolve_type(p.type_sym);
     // A comparison function goes to the library as the parameter's own type.
     if (t && symbols_[t].name_is == 'n' && is_function(a) && site.library >= 0)
-      return "(" + decl_.emitter().fun_pointer(t, "") + ")(" + a.value + ")";
+      return strf("(%s)(%s)", decl_.emitter().fun_pointer(t, "").c_str(), a.value.c_str());
   }
   return a.value;
 }

@@ -210,10 +210,10 @@ struct SyntaxFixture {
 TEST(SyntaxErrorMessages, OncePerLineAndFlushedAtOnce) {
   SyntaxFixture f;
   f.diag.begin_compile();
-  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000003});
+  f.syntax.at_or_before({"x", T_IDENTIFIER, 1000003});
   EXPECT_EQ(f.err.str(), "\n (line) in 'a.yc'\n (3) **error: syntax error at or before 'x'\n");
-  f.syntax.at_or_before({T_SEMICOLON, ";", 1000003});
-  f.syntax.at_or_before({T_Eof, "", 1000004});
+  f.syntax.at_or_before({";", T_SEMICOLON, 1000003});
+  f.syntax.at_or_before({"", T_Eof, 1000004});
   EXPECT_EQ(f.err.str(),
             "\n (line) in 'a.yc'\n (3) **error: syntax error at or before 'x'\n"
             " (4) **error: syntax error at or before 'end of file'\n");
@@ -225,7 +225,7 @@ TEST(SyntaxErrorMessages, LongTokenCutTo40) {
   f.options.width = 200;
   f.diag.begin_compile();
   std::string text(60, 'k');
-  f.syntax.at_or_before({T_IDENTIFIER, text, 1000001});
+  f.syntax.at_or_before({text, T_IDENTIFIER, 1000001});
   EXPECT_NE(f.err.str().find("'" + std::string(40, 'k') + "'"), std::string::npos);
   EXPECT_EQ(f.err.str().find(std::string(41, 'k')), std::string::npos);
 }
@@ -233,9 +233,9 @@ TEST(SyntaxErrorMessages, LongTokenCutTo40) {
 TEST(SyntaxErrorMessages, TypeMessageHasItsOwnLineMemory) {
   SyntaxFixture f;
   f.diag.begin_compile();
-  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000002});
-  f.syntax.expecting_type({T_IDENTIFIER, "x", 1000002});
-  f.syntax.expecting_type({T_IDENTIFIER, "y", 1000002});
+  f.syntax.at_or_before({"x", T_IDENTIFIER, 1000002});
+  f.syntax.expecting_type({"x", T_IDENTIFIER, 1000002});
+  f.syntax.expecting_type({"y", T_IDENTIFIER, 1000002});
   EXPECT_EQ(f.err.str(),
             "\n (line) in 'a.yc'\n (2) **error: syntax error at or before 'x'\n"
             " (2) **error: syntax error: expecting a type or typedef name, but\n"
@@ -246,8 +246,8 @@ TEST(SyntaxErrorMessages, CountsTowardsTheErrorLimit) {
   SyntaxFixture f;
   f.options.error_limit = 2;
   f.diag.begin_compile();
-  f.syntax.at_or_before({T_IDENTIFIER, "x", 1000001});
-  EXPECT_THROW(f.syntax.at_or_before({T_IDENTIFIER, "y", 1000002}), CompileHalt);
+  f.syntax.at_or_before({"x", T_IDENTIFIER, 1000001});
+  EXPECT_THROW(f.syntax.at_or_before({"y", T_IDENTIFIER, 1000002}), CompileHalt);
 }
 
 }  // namespace
