@@ -10,7 +10,7 @@ static double eval_a(int i, int j)
    return 1.0 / (double)((i + j) * (i + j + 1) / 2 + i + 1);
 }
 
-static void times(double *v, const double *u, int n)
+static void a_times(double *v, const double *u, int n)
 {
    int i, j;
    double s;
@@ -22,7 +22,7 @@ static void times(double *v, const double *u, int n)
    }
 }
 
-static void times_transposed(double *v, const double *u, int n)
+static void at_times(double *v, const double *u, int n)
 {
    int i, j;
    double s;
@@ -34,10 +34,10 @@ static void times_transposed(double *v, const double *u, int n)
    }
 }
 
-static void times_a_transposed_a(double *v, const double *u, double *w, int n)
+static void at_a_times(double *v, const double *u, double *w, int n)
 {
-   times(w, u, n);
-   times_transposed(v, w, n);
+   a_times(w, u, n);
+   at_times(v, w, n);
 }
 
 int main(int argc, char **argv)
@@ -52,8 +52,8 @@ int main(int argc, char **argv)
    for (i = 0; i < n; i++)
       u[i] = 1.0;
    for (i = 0; i < 10; i++) {
-      times_a_transposed_a(v, u, w, n);
-      times_a_transposed_a(u, v, w, n);
+      at_a_times(v, u, w, n);
+      at_a_times(u, v, w, n);
    }
    for (i = 0; i < n; i++) {
       vbv = vbv + u[i] * v[i];
