@@ -9,14 +9,17 @@
 #   REPS       runs of each program (default 5); the median is printed
 #   KERNELS    the kernels to run (default: all, in the order below)
 #   CFLAGS     optimisation flags of both sides (default -O2)
+#   KEEP       a directory to keep the programs and outputs in, for
+#              profiling (KEEP/COMPILER/KERNEL/{yarl,c,asan}); else a
+#              temporary directory, removed at the end
 #   YCRT_LIB   the run-time library to link (default: the one built for
 #              COMPILER beside YCC, build-rel/runtime/COMPILER/libycrt.a,
 #              else build-rel/runtime/libycrt.a)
 #
 # Each YARL C kernel is translated by ycc and built with COMPILER; its C twin
 # is built with the same compiler and flags, and once more with
-# -fsanitize=address. The three run in turn REPS times (wall time from
-# /usr/bin/time). Every run's output must equal the first YARL C run's;
+# -fsanitize=address. The three run in turn REPS times (CPU time, user +
+# system, from /usr/bin/time: steadier than wall time on a shared machine). Every run's output must equal the first YARL C run's;
 # otherwise the script says which differ and exits 1 after the table.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
@@ -33,8 +36,13 @@ else
   compilers=(gcc)
   command -v clang > /dev/null 2>&1 && compilers+=(clang)
 fi
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+if [ -n "${KEEP:-}" ]; then
+  mkdir -p "$KEEP"
+  work=$(realpath "$KEEP")
+else
+  work=$(mktemp -d)
+  trap 'rm -rf "$work"' EXIT
+fi
 
 library_for() {  # compiler -> the run-time library to link
   local base
@@ -45,14 +53,14 @@ library_for() {  # compiler -> the run-time library to link
   fi
 }
 
-timed() {  # output-file program -> wall seconds on stdout
+timed() {  # output-file program -> CPU seconds (user + system) on stdout
   local out=$1
   shift
-  /usr/bin/time -f '%e' -o "$work/time" "$@" > "$out" 2> /dev/null || {
+  /usr/bin/time -f '%U %S' -o "$work/time" "$@" > "$out" 2> /dev/null || {
     echo "$* failed" >&2
     return 1
   }
-  tail -n 1 "$work/time"
+  tail -n 1 "$work/time" | awk '{ printf "%.2f\n", $1 + $2 }'
 }
 
 median() {
@@ -64,7 +72,7 @@ ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", (b > 0 ? a / b : 0) }'
 differ=0
 for cc in "${compilers[@]}"; do
   lib=$(library_for "$cc")
-  echo "== $cc $cflags (ycc ${YCC_FLAGS:-default}; $reps runs, median wall seconds)"
+  echo "== $cc $cflags (ycc ${YCC_FLAGS:-default}; $reps runs, median CPU seconds)"
   printf '%-13s %9s %9s %9s %9s %11s\n' kernel 'YARL C' C 'C+ASan' 'YARL/C' 'YARL/ASan'
   logs_c=() logs_a=()
   for k in $kernels; do
