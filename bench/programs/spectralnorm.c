@@ -42,7 +42,7 @@ static void at_a_times(double *v, const double *u, double *w, int n)
 
 int main(int argc, char **argv)
 {
-   int n = argc > 1 ? atoi(argv[1]) : 2500;
+   int n = argc > 1 ? atoi(argv[1]) : 3500;
    int i;
    double vbv = 0.0, vv = 0.0;
    double *u = malloc(sizeof(double) * n);
