@@ -2,7 +2,7 @@
 # A golden case may carry twin.c: the same program written in C, from which
 # its expected output was taken. Builds every twin, runs it as the runner runs
 # the YARL C program (in a copy of the case, with run.args and run.stdin) and
-# checks that it still prints run.stdout, so the expected files stay tied to
+# checks that it still prints run.stdout and run.stderr, so the expected files stay tied to
 # an independent source.
 # usage: twins.sh CASES_DIR
 set -uo pipefail
@@ -22,16 +22,18 @@ for twin in "$cases"/*/*/twin.c; do
   [ -f "$dir/run.stdin" ] && input=$dir/run.stdin
   words=()
   [ -f "$dir/run.args" ] && read -r -a words < "$dir/run.args"
-  (cd "$work/case" && "$work/twin" "${words[@]}" < "$input" > "$work/out")
-  expected=/dev/null
-  [ -f "$dir/run.stdout" ] && expected=$dir/run.stdout
-  if cmp -s "$work/out" "$expected"; then
-    checked=$((checked + 1))
-  else
-    echo "FAIL $name: the C twin's output differs from run.stdout"
-    diff "$expected" "$work/out" | head -20
-    failed=$((failed + 1))
-  fi
+  (cd "$work/case" && "$work/twin" "${words[@]}" < "$input" > "$work/stdout" 2> "$work/stderr")
+  same=1
+  for stream in stdout stderr; do
+    expected=/dev/null
+    [ -f "$dir/run.$stream" ] && expected=$dir/run.$stream
+    if ! cmp -s "$work/$stream" "$expected"; then
+      echo "FAIL $name: the C twin's $stream differs from run.$stream"
+      diff "$expected" "$work/$stream" | head -20
+      same=0
+    fi
+  done
+  if [ $same = 1 ]; then checked=$((checked + 1)); else failed=$((failed + 1)); fi
 done
 echo "$checked passed, $failed failed"
 [ "$failed" -eq 0 ] && [ "$checked" -gt 0 ]
