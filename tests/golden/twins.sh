@@ -2,11 +2,11 @@
 # A golden case may carry twin.c: the same program written in C, from which
 # its expected output was taken. Builds every twin, runs it as the runner runs
 # the YARL C program (in a copy of the case, with run.args and run.stdin) and
-# checks that it still prints run.stdout and run.stderr, so the expected files stay tied to
-# an independent source.
+# checks that it still prints run.stdout and run.stderr and ends with
+# run.status, so the expected files stay tied to an independent source.
 # usage: twins.sh CASES_DIR
 set -uo pipefail
-cases=$1
+cases=$(cd "$1" && pwd)
 failed=0 checked=0
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -23,7 +23,14 @@ for twin in "$cases"/*/*/twin.c; do
   words=()
   [ -f "$dir/run.args" ] && read -r -a words < "$dir/run.args"
   (cd "$work/case" && "$work/twin" "${words[@]}" < "$input" > "$work/stdout" 2> "$work/stderr")
+  status=$?
   same=1
+  want=0
+  [ -f "$dir/run.status" ] && want=$(tr -d ' \n' < "$dir/run.status")
+  if [ "$status" != "$want" ]; then
+    echo "FAIL $name: the C twin's exit status $status is not run.status $want"
+    same=0
+  fi
   for stream in stdout stderr; do
     expected=/dev/null
     [ -f "$dir/run.$stream" ] && expected=$dir/run.$stream
