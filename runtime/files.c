@@ -14,6 +14,7 @@
 struct open_file {
    FILE *fp;
    char last; /* 'r' or 'w': the last transfer, or 0 */
+   int error; /* a write error found by the flush before a read, for fclose */
 };
 
 static struct open_file table[TABLE_SIZE];
@@ -35,7 +36,10 @@ int ycrt_errno(void)
 }
 
 /* C requires a positioning call or a flush between reading and writing an
-   update stream; the library makes it so the program need not. */
+   update stream; the library makes it so the program need not. A failed
+   flush is kept for fclose, so that a write error is never lost.
+   YCRT_LOOKUP (fclose, fseek, ftell) only finds the file: those functions
+   flush themselves and report what fails. */
 void *ycrt_file(int file, int writing)
 {
    struct open_file *f;
@@ -43,11 +47,16 @@ void *ycrt_file(int file, int writing)
    if (file < 0 || file >= TABLE_SIZE || table[file].fp == NULL)
       return NULL;
    f = &table[file];
+   if (writing == YCRT_LOOKUP)
+      return f->fp;
    if (file > 2) {
-      if (writing && f->last == 'r')
+      if (writing && f->last == 'r') {
          fseek(f->fp, 0L, SEEK_CUR);
-      else if (!writing && f->last == 'w')
-         fflush(f->fp);
+      } else if (!writing && f->last == 'w') {
+         errno = 0;
+         if (fflush(f->fp) != 0 && f->error == 0)
+            f->error = ycrt_errno();
+      }
    }
    f->last = writing ? 'w' : 'r';
    return f->fp;
@@ -88,6 +97,7 @@ static int add_file(FILE *fp)
    int slot = free_slot();
    table[slot].fp = fp;
    table[slot].last = 0;
+   table[slot].error = 0;
    return slot;
 }
 
@@ -150,14 +160,14 @@ void _yc__tmpfile(void *returns[])
 
 void _yc__fclose(void *returns[], int file)
 {
-   FILE *fp = ycrt_file(file, 0);
+   FILE *fp = ycrt_file(file, YCRT_LOOKUP);
    int *status = returns[1];
    if (fp == NULL) {
       *status = YCRT_BAD_FILE;
       return;
    }
    errno = 0;
-   *status = fclose(fp) == 0 ? 0 : ycrt_errno();
+   *status = fclose(fp) == 0 ? table[file].error : ycrt_errno();
    table[file].fp = NULL;
 }
 
@@ -320,7 +330,7 @@ void _yc__fread(void *returns[], struct ycrt_meta1 *buffer, unsigned count, int 
 
 void _yc__fseek(void *returns[], int file, long offset, int whence)
 {
-   FILE *fp = ycrt_file(file, 0);
+   FILE *fp = ycrt_file(file, YCRT_LOOKUP);
    int *status = returns[1];
    static const int origins[3] = {SEEK_SET, SEEK_CUR, SEEK_END};
    if (fp == NULL) {
@@ -338,7 +348,7 @@ void _yc__fseek(void *returns[], int file, long offset, int whence)
 
 void _yc__ftell(void *returns[], int file)
 {
-   FILE *fp = ycrt_file(file, 0);
+   FILE *fp = ycrt_file(file, YCRT_LOOKUP);
    long *position = returns[1];
    if (fp == NULL) {
       *position = YCRT_BAD_FILE;

@@ -30,11 +30,19 @@ struct table {
    size_t nentries; /* bytes of the entry area */
 };
 
+/* A table holds no NUL byte (every number byte has its top bit set), so its
+   text is all its occurs characters: looking for a NUL would cost a pass
+   over the whole table at every lookup. */
+static size_t table_len(const struct ycrt_meta1 *m)
+{
+   return ycrt_all_len(m);
+}
+
 /* Reads a table's layout; 0, or YCRT_INVALID. */
 static int open_table(const struct ycrt_meta1 *m, struct table *t)
 {
    t->p = m->ptr;
-   t->len = ycrt_len(m);
+   t->len = table_len(m);
    if (t->len < HEADER || memcmp(t->p, MAGIC, MAGIC_LEN) != 0)
       return YCRT_INVALID;
    t->count = ycrt_get7(t->p + MAGIC_LEN, NUM);
@@ -92,7 +100,7 @@ void _yc__strkfnd(void *returns[], struct ycrt_meta1 *table, struct ycrt_meta1 *
    long slot;
    size_t at;
    *value = 0;
-   if (ycrt_len(table) == 0) {
+   if (table_len(table) == 0) {
       *status = YCRT_NOT_FOUND;
       return;
    }
@@ -146,7 +154,7 @@ static int put_key(struct ycrt_meta1 *m, const unsigned char *key, size_t n, int
    struct table t;
    size_t need, grow = 0;
    long slot;
-   if (ycrt_len(m) == 0) {
+   if (table_len(m) == 0) {
       if (ycrt_reserve(m, HEADER + FIRST_SLOTS * NUM + 1, NULL) != 0)
          return -1;
       lay_out(m->ptr, 0, FIRST_SLOTS);

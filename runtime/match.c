@@ -49,10 +49,12 @@ struct machine {
    unsigned char *sparse, *lists[2], *stack;
 };
 
-/* Checks the machine's layout; 0, YCRT_MACHINE_EMPTY or YCRT_INVALID. */
+/* Checks the machine's layout; 0, YCRT_MACHINE_EMPTY or YCRT_INVALID. A
+   machine holds no NUL byte, so it is all its occurs characters: looking for
+   a NUL would cost a pass over the machine at every search. */
 static int load(struct ycrt_meta1 *m, struct machine *mc)
 {
-   size_t len = ycrt_len(m), total;
+   size_t len = ycrt_all_len(m), total;
    unsigned char *p = m->ptr;
    unsigned long f[RE_FIELDS];
    int k;

@@ -107,6 +107,7 @@ unsigned long ycrt_get7(const unsigned char *p, int bytes);
 /* ---- files.c ---- */
 /* The FILE of an open file number, ready for reading (writing 0) or writing
    (writing 1); NULL when the number is not open. */
+#define YCRT_LOOKUP (-1) /* ycrt_file: find the file, switch nothing */
 void *ycrt_file(int file, int writing);
 void ycrt_files_close_all(void);
 /* The system error in errno as a positive status (EIO when errno is 0). */

@@ -257,8 +257,40 @@ static void many_files(void)
       CHECK(status_of(_yc__fclose, files[k]) == 0, "fclose %d", files[k]);
 }
 
+/* A write error shows at fclose even when a read, a seek or ftell came
+   between the write and the close. */
+static void write_errors_reach_fclose(void)
+{
+   static const char *between[] = {"nothing", "fgetc", "fseek", "ftell"};
+   struct ycrt_meta1 text = lit("lost unless reported");
+   int file, status, k;
+   long position;
+   struct call c;
+   for (k = 0; k < 4; ++k) {
+      file = open_file("/dev/full", "r+");
+      CHECK(file >= 3, "fopen /dev/full");
+      call_init(&c, &status, NULL);
+      _yc__fputs(c.r, &text, file);
+      CHECK(status == 0, "fputs is buffered");
+      if (k == 1)
+         status_of(_yc__fgetc, file);
+      if (k == 2) {
+         _yc__fseek(c.r, file, 0, 0);
+         CHECK(status == ENOSPC, "fseek reports the write error it flushes: %d", status);
+      }
+      if (k == 3) {
+         call_init(&c, &position, NULL);
+         _yc__ftell(c.r, file);
+      }
+      status = status_of(_yc__fclose, file);
+      CHECK(status == ENOSPC || k == 2,
+            "fclose after %s reports the write error: %d", between[k], status);
+   }
+}
+
 void test_files(void)
 {
+   write_errors_reach_fclose();
    bad_numbers();
    opening();
    round_trip();
