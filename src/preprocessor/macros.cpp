@@ -34,6 +34,7 @@ Macro& MacroTable::define(std::string_view name) {
     m->name = name;
     return *m;
   }
+  if (!name.empty() && name.size() < 64) seen_[static_cast<unsigned char>(name[0]) & 127] |= std::uint64_t{1} << name.size();
   auto& bucket = buckets_[static_cast<size_t>(bucket_of(name))];
   // Buckets grow five records at a time.
   if (bucket.size() == bucket.capacity()) bucket.reserve(bucket.size() + 5);

@@ -1,7 +1,9 @@
 // The macro table and the expansion of macro uses in a text.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -34,6 +36,11 @@ class MacroTable {
   Macro* find(std::string_view name);
   const Macro* find(std::string_view name) const;
   bool is_defined(std::string_view name) const { return find(name) != nullptr; }
+  // False only for a name that no macro has ever had: a quick test by first
+  // character and length, before any search.
+  bool may_define(std::string_view name) const {
+    return name.size() >= 64 || (seen_[static_cast<unsigned char>(name[0]) & 127] >> name.size() & 1);
+  }
   // Enters or replaces a macro; returns the record.
   Macro& define(std::string_view name);
   void undefine(std::string_view name);
@@ -45,6 +52,7 @@ class MacroTable {
  private:
   // Records stay put while the table grows: expansion holds pointers to them.
   std::vector<std::vector<std::unique_ptr<Macro>>> buckets_;
+  std::array<std::uint64_t, 128> seen_{};  // lengths below 64 by first character
 };
 
 // Builds the parameter index of a function-like macro.

@@ -60,6 +60,8 @@ class Writer {
   // A #line or #pragma line, at the place of its directive.
   void directive_line(std::string_view text);
   // Text outside the token stream (line markers, file ends).
+  // Ordinary tokens with their blanks, copied as they stand.
+  void plain(std::string_view text);
   void raw(std::string_view text);
 
  private:

@@ -72,6 +72,13 @@ void Writer::directive_line(std::string_view text) {
   out.append(text);
 }
 
+void Writer::plain(std::string_view text) {
+  if (!held_.empty() || string_open_) flush_held();
+  if (pending_newlines > 0) out.append(static_cast<size_t>(pending_newlines), '\n');
+  pending_newlines = 0;
+  out.append(text);
+}
+
 void Writer::raw(std::string_view text) {
   flush_held();
   out.append(text);
@@ -205,7 +212,11 @@ void Preprocessor::run() {
       directive(tok);
       continue;
     }
-    if (active) ordinary_token(tok);
+    if (!active) continue;
+    ordinary_token(tok);
+    // What follows on the line is mostly plain text: copied in one piece.
+    std::string_view run = e.reader.plain_run([this](std::string_view w) { return table_.may_define(w); });
+    if (!run.empty()) writer_.plain(run);
   }
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "preprocessor/text_scan.h"
+
 namespace ycc::pp {
 
 enum class Tok { end, ident, number, string, character, punct };
@@ -45,6 +47,15 @@ class Reader {
     pending_ = s.pending;
   }
 
+  // Ordinary text that needs nothing but copying, from the current position:
+  // the longest stretch of words, numbers, punctuators and the blanks between
+  // them that ends with a token on the current line. It stops before
+  // anything that starts a literal, comment, continuation or line end,
+  // before a character outside the character set, and before a word that
+  // `may_be_macro` accepts. Advances past it; empty when there is none.
+  template <class MayBeMacro>
+  std::string_view plain_run(MayBeMacro may_be_macro);
+
   int line() const { return line_; }
   // The last line of the file, where end-of-file messages stand.
   int last_line() const;
@@ -67,5 +78,38 @@ class Reader {
   size_t reported_upto_ = 0;
   std::string scratch_;
 };
+
+template <class MayBeMacro>
+std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
+  size_t p = pos_, last = pos_, n = t_.size();
+  while (p < n) {
+    char c = t_[p];
+    if (c == ' ') {
+      ++p;
+      continue;
+    }
+    size_t q;
+    if (is_ident_start(c)) {
+      q = p + 1;
+      while (q < n && is_ident_char(t_[q])) ++q;
+      if (may_be_macro(t_.substr(p, q - p))) break;
+    } else if (is_digit(c) || (c == '.' && p + 1 < n && is_digit(t_[p + 1]))) {
+      q = skip_number(t_, p);
+    } else if (c == '/') {
+      if (p + 1 < n && (t_[p + 1] == '*' || t_[p + 1] == '/')) break;
+      q = p + 1;
+    } else if (c > ' ' && c < 127 && c != '"' && c != '\'' && c != '\\' && c != '$' && c != '@' && c != '`') {
+      q = p + 1;
+    } else {
+      break;
+    }
+    // A word that a continuation extends is the reader's to join.
+    if (q < n && t_[q] == '\\') break;
+    p = last = q;
+  }
+  std::string_view run = t_.substr(pos_, last - pos_);
+  pos_ = last;
+  return run;
+}
 
 }  // namespace ycc::pp

@@ -200,6 +200,19 @@ TEST(Expander, LongChainNeedsNoDeepRecursion) {
   EXPECT_EQ(x.expand("m0"), "m" + std::to_string(n));
 }
 
+// Plain stretches of a line are copied whole; what ends a stretch (a macro
+// name, a tab, a continuation inside a word, literals to join, comments,
+// trailing blanks, an invocation whose "(" is on the next line) must come
+// out exactly as token by token.
+TEST(MacroExpansion, PlainStretchesEndWhereTokensNeedTheReader) {
+  test::PpRun r = run_pp(
+      "#define e 9\n#define M(x) x\n"
+      "int a = 1e+5 + e, b\t= M(2)  ;   \n"
+      "ab\\\ncd = \"s\"  \"t\" /* c */ + x // d\n"
+      "y = 'q' + M\n(3) ;  z\n");
+  EXPECT_EQ(body(r), "\n\nint a = 1e+5 + 9, b = 2  ;\nabcd = \"st\"     + x\n\ny = 'q' + 3\n ;  z\n");
+}
+
 TEST(Stringize, EscapesInsideQuotedItems) {
   EXPECT_EQ(stringize("a b"), "\"a b\"");
   EXPECT_EQ(stringize("\"x\""), "\"\\\"x\\\"\"");
