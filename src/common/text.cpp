@@ -52,24 +52,35 @@ void append_plain(std::string& out, const char* fmt, va_list ap) {
 
 }  // namespace
 
-std::string strf(const char* fmt, ...) {
-  va_list ap;
-  va_start(ap, fmt);
-  std::string out;
+void vappendf(std::string& out, const char* fmt, va_list ap) {
   if (plain_conversions(fmt)) {
     append_plain(out, fmt, ap);
-    va_end(ap);
-    return out;
+    return;
   }
   va_list ap2;
   va_copy(ap2, ap);
   int n = std::vsnprintf(nullptr, 0, fmt, ap);
-  va_end(ap);
   if (n > 0) {
-    out.resize(static_cast<size_t>(n));
-    std::vsnprintf(out.data(), out.size() + 1, fmt, ap2);
+    size_t at = out.size();
+    out.resize(at + static_cast<size_t>(n));
+    std::vsnprintf(out.data() + at, static_cast<size_t>(n) + 1, fmt, ap2);
   }
   va_end(ap2);
+}
+
+void appendf(std::string& out, const char* fmt, ...) {
+  va_list ap;
+  va_start(ap, fmt);
+  vappendf(out, fmt, ap);
+  va_end(ap);
+}
+
+std::string strf(const char* fmt, ...) {
+  va_list ap;
+  va_start(ap, fmt);
+  std::string out;
+  vappendf(out, fmt, ap);
+  va_end(ap);
   return out;
 }
 

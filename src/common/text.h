@@ -1,6 +1,7 @@
 // Small text helpers shared by every stage.
 #pragma once
 
+#include <cstdarg>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,9 @@ namespace ycc {
 
 // printf-style formatting into a std::string; message texts keep their C formats.
 std::string strf(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
+// The same, appended to `out`: no string of its own.
+void appendf(std::string& out, const char* fmt, ...) __attribute__((format(printf, 2, 3)));
+void vappendf(std::string& out, const char* fmt, va_list ap);
 
 // A text as the body of a C string literal: backslashes, quotes and
 // newlines escaped.
@@ -20,12 +24,12 @@ inline bool ends_with(std::string_view s, std::string_view tail) {
   return s.size() >= tail.size() && s.substr(s.size() - tail.size()) == tail;
 }
 
-inline bool is_ident_start(char c) {
+constexpr bool is_ident_start(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
 }
-inline bool is_ident_char(char c) { return is_ident_start(c) || (c >= '0' && c <= '9'); }
-inline bool is_digit(char c) { return c >= '0' && c <= '9'; }
-inline bool is_alpha(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool is_ident_char(char c) { return is_ident_start(c) || (c >= '0' && c <= '9'); }
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool is_alpha(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 // "\" and "/" both separate directories; files are opened with "/".
 inline std::string host_path(std::string name) {

@@ -198,7 +198,7 @@ std::string Emitter::companion_designators(int sub) const {
       for (const auto& [at, n] : v.member_occurs)
         if (at == path) occurs = n;
       if (!out.empty()) out += ", ";
-      out += strf("%s.%s = {(void *)%s%s", w.path.c_str(), names_.companion(ms.name).c_str(), c_name(v.name).c_str(),
+      appendf(out, "%s.%s = {(void *)%s%s", w.path.c_str(), names_.companion(ms.name).c_str(), c_name(v.name).c_str(),
                   path.c_str());
       if (ms.dim_count() == 1) out += strf(",%d", occurs);
       for (const Dimension& d : ms.dims) out += strf(",%d", d.size);
@@ -215,7 +215,7 @@ std::string Emitter::companion_text(int sub, bool member, bool local, int initia
   std::string t;
   if (is_static) t += "static ";
   if (is_extern) t += "extern ";
-  t += strf("struct %s %s_%s", names_.meta_type(s.dim_count()).c_str(), names_.prefix().c_str(), s.name.c_str());
+  appendf(t, "struct %s %s_%s", names_.meta_type(s.dim_count()).c_str(), names_.prefix().c_str(), s.name.c_str());
   if (!is_extern && !member) {
     t += local && !is_static ? std::string(" = {NULL") : " = {(void *)" + c_name(s.name);
     if (s.dim_count() == 1) t += strf(",%d", initial_occurs);
@@ -385,7 +385,7 @@ void Emitter::function_heading(int f, bool definition) {
     bool is_struct = t && symbols_[t].name_is == 's';
     if (r.dim_count() > 0 || is_struct) {
       std::string type = r.dim_count() > 0 ? names_.meta_type(r.dim_count()) : tag_name(t);
-      ws_.wd_locals += strf("\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), c_name(r.name).c_str(),
+      appendf(ws_.wd_locals, "\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), c_name(r.name).c_str(),
                             type.c_str(), ret.c_str(), static_cast<int>(i + 1));
       if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", c_name(r.name).c_str());
       if (is_struct) walk_varspaces(returns[i], "(*" + c_name(r.name) + ")", "", false, ws_.wd_init_code);
@@ -394,7 +394,7 @@ void Emitter::function_heading(int f, bool definition) {
       ws_.wd_locals += "\n" + variable_text(returns[i], false, true);
     }
   }
-  ws_.wd_locals += strf("\nint %s = 0;", names_.generated("exception").c_str());
+  appendf(ws_.wd_locals, "\nint %s = 0;", names_.generated("exception").c_str());
 }
 
 void Emitter::function_closing(int f) {
@@ -460,12 +460,12 @@ class VarspaceWalk : public SpaceWalker::Visitor {
     const char* in = indent.c_str();
     const char* path = p.object.c_str();
     if (free_) {
-      out_ += strf("\n%sif(%s.limit1 > 0) {", in, path);
-      out_ += strf("\n%sfree(%s.ptr);", in, path);
-      out_ += strf("\n%s;}", in);
+      appendf(out_, "\n%sif(%s.limit1 > 0) {", in, path);
+      appendf(out_, "\n%sfree(%s.ptr);", in, path);
+      appendf(out_, "\n%s;}", in);
       return;
     }
-    out_ += strf("\n%s%s.ptr = %s;", in, path, "NULL");
+    appendf(out_, "\n%s%s.ptr = %s;", in, path, "NULL");
     int dims = symbols_[p.sym].dim_count();
     if (dims == 1) out_ += strf("\n%s%s.occurs = 0;", in, path);
     for (int k = 1; k <= dims; ++k) out_ += strf("\n%s%s.limit%d = 0;", in, path, k);
@@ -475,10 +475,10 @@ class VarspaceWalk : public SpaceWalker::Visitor {
     if (free_ || !set_companions_) return;
     std::string indent = walk_indent(p.depth);
     const Symbol& s = symbols_[p.sym];
-    out_ += strf("\n%s%s.ptr = %s;", indent.c_str(), p.record.c_str(), p.object.c_str());
+    appendf(out_, "\n%s%s.ptr = %s;", indent.c_str(), p.record.c_str(), p.object.c_str());
     if (s.dim_count() == 1) out_ += strf("\n%s%s.occurs = 0;", indent.c_str(), p.record.c_str());
     for (int k = 1; k <= s.dim_count(); ++k)
-      out_ += strf("\n%s%s.limit%d = %d;", indent.c_str(), p.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
+      appendf(out_, "\n%s%s.limit%d = %d;", indent.c_str(), p.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
   }
 
  private:

@@ -73,7 +73,7 @@ void SpaceWalker::walk_frames(Frame0 root, const std::string& object, const std:
         for (int k = 1; k <= n; ++k) {
           std::string c = v.loop_counter(f.depth + k - 1);
           std::string bound = v.loop_bound(part(f), k);
-          out += strf("\n%sfor(%s = 0; %s < %s; ++%s) {", walk_indent(f.depth + k - 1).c_str(), c.c_str(),
+          appendf(out, "\n%sfor(%s = 0; %s < %s; ++%s) {", walk_indent(f.depth + k - 1).c_str(), c.c_str(),
                       c.c_str(), bound.c_str(), c.c_str());
           for (int i = 0; i < paths; ++i)
             index[i] = k == 1 ? c : strf("(%s) * %s.limit%d + %s", index[i].c_str(), f.record[i].c_str(), k, c.c_str());

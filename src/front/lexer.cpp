@@ -7,6 +7,7 @@
 #include "front/lexer.h"
 
 #include <algorithm>
+#include <array>
 
 #include <climits>
 #include <cstdint>
@@ -89,6 +90,13 @@ const Spellings& spellings() {
   return s;
 }
 
+constexpr std::array<bool, 256> ident_bytes = [] {
+  std::array<bool, 256> t{};
+  for (int c = 0; c < 256; ++c) t[static_cast<size_t>(c)] = is_ident_char(static_cast<char>(c));
+  return t;
+}();
+inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c)]; }
+
 class Lexer {
  public:
   // The lexer keeps its own copy of the text: every token's text is a view
@@ -122,13 +130,13 @@ class Lexer {
   // Length of "#pragma" + blanks + word + rest of line at i, or 0.
   size_t pragma_with(size_t i, std::string_view word) const;
 
-  int line_code() const {
-    if (line_ > INT_MAX) return INT_MAX;
-    if (line_ < INT_MIN) return INT_MIN;
-    return static_cast<int>(line_);
+  int line_code() const { return line_code_; }
+  void set_line(std::int64_t line) {
+    line_ = line;
+    line_code_ = static_cast<int>(std::clamp<std::int64_t>(line, INT_MIN, INT_MAX));
   }
   void next_line() {
-    if (line_ < INT_MAX) ++line_;
+    if (line_ < INT_MAX) set_line(line_ + 1);
   }
   void emit(int tok, size_t begin, size_t end) { emit(tok, s_.substr(begin, end - begin)); }
   void emit(int tok, std::string_view text);
@@ -161,6 +169,8 @@ class Lexer {
   size_t pos_ = 0;
   Mode mode_ = Mode::normal;
   std::int64_t line_ = 0;
+  int line_code_ = 0;  // line_ as tokens carry it
+  const Spellings& spellings_ = spellings();
   std::vector<ExternRange> ranges_;
   size_t current_range_ = 0;
   std::vector<Token> tokens_;
@@ -284,7 +294,7 @@ void Lexer::file_name() {
   size_t end = quoted_end(pos_, '"');
   size_t name_end = (end > pos_ + 1 && at(end - 1) == '"') ? end - 1 : end;
   int index = files_.intern(s_.substr(pos_ + 1, name_end - pos_ - 1));
-  line_ = line_ % file_factor + static_cast<std::int64_t>(index) * file_factor;
+  set_line(line_ % file_factor + static_cast<std::int64_t>(index) * file_factor);
   pos_ = end;
 }
 
@@ -305,7 +315,7 @@ void Lexer::line_directive_step() {
       if (number < file_factor * 10000) number = number * 10 + (s_[pos_] - '0');
       ++pos_;
     }
-    line_ = number + (line_ / file_factor) * file_factor;
+    set_line(number + (line_ / file_factor) * file_factor);
   } else if (c == '"') {
     file_name();
   } else {
@@ -319,7 +329,10 @@ void Lexer::normal_step() {
   if (c == '\n') {
     newline_in_normal();
   } else if (c == ' ' || c == '\t') {
-    ++pos_;
+    // Indentation comes in runs; the text ends in a NUL that stops every run.
+    const char* d = s_.data();
+    do ++pos_;
+    while (d[pos_] == ' ' || d[pos_] == '\t');
   } else if (c == '/' && at(pos_ + 1) == '*') {
     // Comments do not nest; an unclosed one runs to the end of the file.
     size_t close = s_.find("*/", pos_ + 2);
@@ -335,9 +348,10 @@ void Lexer::normal_step() {
     pos_ = number_end(pos_, tok);
     emit(tok, begin, pos_);
   } else if (is_ident_start(c)) {
-    while (is_ident_char(at(pos_))) ++pos_;
+    const char* d = s_.data();
+    while (ident_byte(d[pos_])) ++pos_;
     std::string_view word = s_.substr(begin, pos_ - begin);
-    emit(spellings().keyword(word), word);
+    emit(spellings_.keyword(word), word);
   } else if (c == '"' || c == '\'') {
     // An unclosed constant ends before its newline, which normal mode counts.
     pos_ = quoted_end(pos_, c);
@@ -347,7 +361,7 @@ void Lexer::normal_step() {
     emit(T_GARBAGE, begin, pos_);
   } else {
     // The longest punctuator that matches wins.
-    for (const Spelling& p : spellings().punctuators[static_cast<unsigned char>(c) & 127]) {
+    for (const Spelling& p : spellings_.punctuators[static_cast<unsigned char>(c) & 127]) {
       if (static_cast<unsigned char>(c) < 128 && s_.substr(pos_, p.text.size()) == p.text) {
         pos_ += p.text.size();
         emit(p.number, begin, pos_);

@@ -183,7 +183,7 @@ void Workspace::start_resize_function(std::string_view header) {
   resize_locals.clear();
   resize_slot_ = new_merge_slot(&resize_locals);
   if (diag_.errors > 0) return;
-  deferred += strf("\n\n%.*s\n{\n#merge %d\n", static_cast<int>(header.size()), header.data(),
+  appendf(deferred, "\n\n%.*s\n{\n#merge %d\n", static_cast<int>(header.size()), header.data(),
                    resize_slot_);
 }
 

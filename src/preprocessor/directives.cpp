@@ -342,7 +342,7 @@ void Preprocessor::include(const std::string& rest) {
     if (files_[k]->name != found) continue;
     std::string msg = "the #include is part of a recursive self-reference as follows: ";
     for (size_t j = k; j < files_.size(); ++j) msg += strf("'%s' includes ", files_[j]->name.c_str());
-    msg += strf("'%s'", found.c_str());
+    appendf(msg, "'%s'", found.c_str());
     report(cur_line_, msg);
     return;
   }

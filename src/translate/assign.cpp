@@ -49,7 +49,7 @@ void Translator::assignment(AssignMode mode, const Token& op) {
       Operand rv = pop_operand();
       Operand& e = operand(left);
       e.code += std::move(rv.code);
-      e.code += strf("\n%s = %s;\n%s %s %s;", t.c_str(), e.value.c_str(), t.c_str(), o.c_str(), rv.value.c_str());
+      appendf(e.code, "\n%s = %s;\n%s %s %s;", t.c_str(), e.value.c_str(), t.c_str(), o.c_str(), rv.value.c_str());
       e.code += std::move(write);
       e.value = e.value + " = " + t;
     } else {
@@ -252,7 +252,7 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
     Release release(symbols_, counter, body, false);
     walker.walk(la.sym, L, L, 1, release, body);
     if (move) {
-      body += strf("\n   %s = %s;", L.c_str(), R.c_str());
+      appendf(body, "\n   %s = %s;", L.c_str(), R.c_str());
       Empty empty(symbols_, counter, body);
       walker.walk(ra.sym, R, R, 1, empty, body);
     } else {
@@ -261,7 +261,7 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       if (nested) walker.walk_pair(la.sym, L, L, R, R, 1, copy, body);
     }
     if (!move) out += strf("\n%s = 1;", flag.c_str());
-    out += strf("\nif(&(%s) != &(%s)) {", L.c_str(), R.c_str()) + body + "\n}";
+    appendf(out, "\nif(&(%s) != &(%s)) {%s\n}", L.c_str(), R.c_str(), body.c_str());
   } else if (la.dims > 0) {
     // A fixed-space target keeps its block: the limits must agree at run time.
     const Symbol& s = symbols_[la.sym];
@@ -273,9 +273,9 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
     if (options_.bounds_checks) {
       body += "\n   if(";
       for (int k = 1; k <= n; ++k)
-        body += strf("%s.limit%d != %s.limit%d%s", L.c_str(), k, R.c_str(), k, k < n ? " || " : ")");
+        appendf(body, "%s.limit%d != %s.limit%d%s", L.c_str(), k, R.c_str(), k, k < n ? " || " : ")");
       std::string name = strf("\n for fixed-space '%s': assigning limit%s ", la.name.c_str(), n > 1 ? "s" : "");
-      body += strf("\n      %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(), c_string_text(name).c_str(),
+      appendf(body, "\n      %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(), c_string_text(name).c_str(),
                    position, 2 * n);
       for (int k = 1; k <= n; ++k) body += strf("(%s)(%s.limit%d), ", "unsigned", L.c_str(), k);
       for (int k = 1; k <= n; ++k) body += strf("(%s)(%s.limit%d)%s", "unsigned", R.c_str(), k, k < n ? ", " : ");");
@@ -284,9 +284,9 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       Release release(symbols_, counter, body, false);
       walker.walk(la.sym, "", L, 1, release, body);
     }
-    body += strf("\n   %s = sizeof(%s)", t.c_str(), emitter.c_type(la.sym).c_str());
+    appendf(body, "\n   %s = sizeof(%s)", t.c_str(), emitter.c_type(la.sym).c_str());
     for (int k = 1; k <= n; ++k) body += strf(" * %s.limit%d", L.c_str(), k);
-    body += strf(";\n   memcpy(%s.ptr, %s.ptr, %s);", L.c_str(), R.c_str(), t.c_str());
+    appendf(body, ";\n   memcpy(%s.ptr, %s.ptr, %s);", L.c_str(), R.c_str(), t.c_str());
     if (n == 1) body += strf("\n   %s.occurs = %s.occurs;", L.c_str(), R.c_str());
     if (nested && move) {
       Empty empty(symbols_, counter, body);
@@ -295,9 +295,9 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       copy_flag();
       DeepCopy copy(symbols_, emitter, counter, body, flag, bytes, 0);
       walker.walk_pair(la.sym, "", L, "", R, 1, copy, body);
-      out += strf("\n%s = 1;", flag.c_str());
+      appendf(out, "\n%s = 1;", flag.c_str());
     }
-    out += strf("\nif(&(%s) != &(%s)) {", L.c_str(), R.c_str()) + body + "\n}";
+    appendf(out, "\nif(&(%s) != &(%s)) {%s\n}", L.c_str(), R.c_str(), body.c_str());
   } else {
     // A structure is copied whole; what it nests is then made its own.
     int tag = la.tag;
@@ -307,7 +307,7 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       Release release(symbols_, counter, body, false);
       walker.walk_structure(tag, L, "", 1, release, body);
     }
-    body += strf("\n   %s = %s;", L.c_str(), R.c_str());
+    appendf(body, "\n   %s = %s;", L.c_str(), R.c_str());
     if (symbols_[tag].vf_flags[1] == 'y') {
       Repoint repoint(symbols_, counter, body);
       walker.walk_structure(tag, L, "", 1, repoint, body);
@@ -319,9 +319,9 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       copy_flag();
       DeepCopy copy(symbols_, emitter, counter, body, flag, bytes, 0);
       walker.walk_structure(tag, L, R, 1, copy, body);
-      out += strf("\n%s = 1;", flag.c_str());
+      appendf(out, "\n%s = 1;", flag.c_str());
     }
-    out += strf("\nif(&(%s) != &(%s)) {", L.c_str(), R.c_str()) + body + "\n}";
+    appendf(out, "\nif(&(%s) != &(%s)) {%s\n}", L.c_str(), R.c_str(), body.c_str());
   }
   if (copies) out += strf("\nif(!%s) {", flag.c_str()) + memory_failure(position, "   ") + "\n}";
   e.code += out;
@@ -344,7 +344,7 @@ void Translator::zero_assignment(int left, bool reported, int line) {
     if (element && symbols_[element].name_is == 's' && !symbols_[element].vf.empty()) {
       fail("'=' : a space whose element type contains at least one space cannot be zeroed");
     } else {
-      out += strf("\nif(%s.limit1)\n   memset(%s.ptr, 0,sizeof(%s)", a.text.c_str(), a.text.c_str(),
+      appendf(out, "\nif(%s.limit1)\n   memset(%s.ptr, 0,sizeof(%s)", a.text.c_str(), a.text.c_str(),
                   decl_.emitter().c_type(a.sym).c_str());
       for (int k = 1; k <= a.dims; ++k) out += strf("* %s.limit%d", a.text.c_str(), k);
       out += ");";

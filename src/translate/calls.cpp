@@ -141,7 +141,7 @@ void Translator::call(const CallInfo& info) {
     std::string actuals = generated("actuals");
     int slots = 1 + static_cast<int>(lists.returns.size());
     std::string t;
-    t += strf("\n%s[%d] = &(%s);", actuals.c_str(), 0, generated("exception").c_str());
+    appendf(t, "\n%s[%d] = &(%s);", actuals.c_str(), 0, generated("exception").c_str());
     // The return variables, or temporaries for a call used as a value.
     for (int i = 0; i < static_cast<int>(lists.returns.size()); ++i) {
       std::string target;
@@ -150,7 +150,7 @@ void Translator::call(const CallInfo& info) {
       } else {
         target = i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]);
       }
-      t += strf("\n%s[%d] = &(%s);", actuals.c_str(), i + 1, target.c_str());
+      appendf(t, "\n%s[%d] = &(%s);", actuals.c_str(), i + 1, target.c_str());
     }
     // The checked target: a varspace grows, a fixed-space reports what did not fit.
     std::string needed, limit_temp, target_record;
@@ -160,11 +160,11 @@ void Translator::call(const CallInfo& info) {
       target_record = target.ref ? target.ref->record : std::string();
       bool var = target.ref && symbols_[target.ref->sym].is_var == 'y' && !target.partial;
       if (var) {
-        t += strf("\n%s[%d] = %s[%d] = NULL;", actuals.c_str(), slots, actuals.c_str(), slots + 1);
+        appendf(t, "\n%s[%d] = %s[%d] = NULL;", actuals.c_str(), slots, actuals.c_str(), slots + 1);
       } else {
         needed = temporary(128);
         limit_temp = temporary(128);
-        t += strf("\n%s = 0;\n%s[%d] = &(%s);\n%s[%d] = &(%s);", needed.c_str(), actuals.c_str(), slots,
+        appendf(t, "\n%s = 0;\n%s[%d] = &(%s);\n%s[%d] = &(%s);", needed.c_str(), actuals.c_str(), slots,
                   needed.c_str(), actuals.c_str(), slots + 1, limit_temp.c_str());
       }
       slots += 2;
@@ -177,17 +177,17 @@ void Translator::call(const CallInfo& info) {
       int param = i < static_cast<int>(lists.params.size()) ? lists.params[static_cast<size_t>(i)] : 0;
       args += ", " + argument_text(site, a, param, t);
       if (row && (site.name == "qsort" || site.name == "bsearch") && i == 0)
-        args += strf(", sizeof(struct %s)", decl_.emitter().tag_name(operand(args_at).type_sym).c_str());
+        appendf(args, ", sizeof(struct %s)", decl_.emitter().tag_name(operand(args_at).type_sym).c_str());
     }
     t += callee_text + actuals + args + ");";
     if (checked && !target_record.empty()) {
       // occurs is the length of the text within the limit.
       std::string n = temporary(128);
       const char* rec = target_record.c_str();
-      t += strf("\nfor(%s = 0; %s < %s.limit1 && *(((unsigned char *)%s.ptr) + %s) != 0; ++%s)\n   ;\n%s.occurs = %s;",
+      appendf(t, "\nfor(%s = 0; %s < %s.limit1 && *(((unsigned char *)%s.ptr) + %s) != 0; ++%s)\n   ;\n%s.occurs = %s;",
                 n.c_str(), n.c_str(), rec, rec, n.c_str(), n.c_str(), rec, n.c_str());
       if (!needed.empty() && options_.bounds_checks)
-        t += strf("\nif(%s)\n   %s(\"'%s()' out\", %d, 2, (%s)(%s), (%s)(%s));", needed.c_str(),
+        appendf(t, "\nif(%s)\n   %s(\"'%s()' out\", %d, 2, (%s)(%s), (%s)(%s));", needed.c_str(),
                   support_.bounds_exceeded().c_str(), site.name.c_str(), support_.position(site.line), "unsigned",
                   needed.c_str(), "unsigned", limit_temp.c_str());
     }
@@ -214,20 +214,20 @@ std::string Translator::exception_test(const CallSite& site, const LibraryFuncti
   std::string t;
   if (!row) {
     // A YARL C function: its exception goes to a handler of this function or on up.
-    t += strf("\nif(%s) {", exc.c_str());
+    appendf(t, "\nif(%s) {", exc.c_str());
     for (int n : fn().handler_order)
-      t += strf("\n   if(%s == %d) {\n      %s = 0;\n      goto %s;\n   }", exc.c_str(), n, exc.c_str(),
+      appendf(t, "\n   if(%s == %d) {\n      %s = 0;\n      goto %s;\n   }", exc.c_str(), n, exc.c_str(),
                 generated("exception", n).c_str());
-    t += strf("\n   goto %s;\n}", generated("finish").c_str());
+    appendf(t, "\n   goto %s;\n}", generated("finish").c_str());
     return t;
   }
   if (row->raises != 'y') return t;
-  t += strf("\nif(%s) {", exc.c_str());
+  appendf(t, "\nif(%s) {", exc.c_str());
   if (options_.memory_locations) t += strf("\n   %s(%d);", support_.out_of_memory().c_str(), support_.position(site.line));
   if (fn().handles(memory_exception))
-    t += strf("\n   %s = 0;\n   goto %s;\n}", exc.c_str(), generated("exception", memory_exception).c_str());
+    appendf(t, "\n   %s = 0;\n   goto %s;\n}", exc.c_str(), generated("exception", memory_exception).c_str());
   else
-    t += strf("\n   goto %s;\n}", generated("finish").c_str());
+    appendf(t, "\n   goto %s;\n}", generated("finish").c_str());
   return t;
 }
 
@@ -255,7 +255,7 @@ std::string Translator::argument_text(const CallSite& site, Operand& a, int para
     int n = symbols_[r.last_sym].dim_count();
     int k = n - a.dims;
     std::string md = meta_temporary(a.dims);
-    prep += strf("\n%s.ptr = (void *)%s;", md.c_str(), a.value.c_str());
+    appendf(prep, "\n%s.ptr = (void *)%s;", md.c_str(), a.value.c_str());
     for (int d = 1; d <= a.dims; ++d) prep += strf("\n%s.limit%d = %s.limit%d;", md.c_str(), d, r.last_record.c_str(), k + d);
     if (a.dims == 1) prep += strf("\n%s.occurs = %s.limit%d;", md.c_str(), md.c_str(), 1);
     return "&(" + md + ")";

@@ -107,11 +107,11 @@ void Translator::cast_assignment(int left, bool reported, int line) {
     std::string t = c.kind ? temporary(4) : temporary(c.type_bits);
     if (c.kind == 's') t.clear();
     if (!t.empty()) {
-      e.code += strf("\n%s = %s;", t.c_str(), vv.c_str());
+      appendf(e.code, "\n%s = %s;", t.c_str(), vv.c_str());
       vv = t;
     }
   }
-  e.code += strf("\nadded_length = sizeof(%s);", type.c_str());
+  appendf(e.code, "\nadded_length = sizeof(%s);", type.c_str());
   if (!options_.unaligned)
     e.code += store ? strf("\nmemcpy(&(%s), &(%s), sizeof(%s));", cv.c_str(), vv.c_str(), type.c_str())
                     : strf("\nmemcpy(&(%s), &(%s), sizeof(%s));", vv.c_str(), cv.c_str(), type.c_str());
@@ -162,19 +162,19 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
     std::string total = "sizeof(" + type + ")";
     for (const auto& p : collect.parts) total += " + sizeof(" + meta(p.sym) + ") + " + bytes(p.sym, p.record);
     c.code.insert_at_x(strf("\n%s = %s - 1;", minus_one.c_str(), total.c_str()));
-    t += strf("\n%s = &(%s);", ccs.c_str(), element.c_str());
+    appendf(t, "\n%s = &(%s);", ccs.c_str(), element.c_str());
     t += u ? strf("\n*((%s *)%s) = %s;", type.c_str(), ccs.c_str(), value.c_str())
            : strf("\nmemcpy(%s, &(%s), sizeof(%s));", ccs.c_str(), value.c_str(), type.c_str());
-    t += strf("\n%s += sizeof(%s);", ccs.c_str(), type.c_str());
+    appendf(t, "\n%s += sizeof(%s);", ccs.c_str(), type.c_str());
     for (const auto& p : collect.parts) {
       const char* r = p.record.c_str();
       std::string m = meta(p.sym);
       t += u ? strf("\n*((%s *)%s) = %s;", m.c_str(), ccs.c_str(), r)
              : strf("\nmemcpy(%s, &(%s), sizeof(%s));", ccs.c_str(), r, m.c_str());
-      t += strf("\n%s += sizeof(%s);", ccs.c_str(), m.c_str());
+      appendf(t, "\n%s += sizeof(%s);", ccs.c_str(), m.c_str());
       std::string b = bytes(p.sym, p.record);
-      t += strf("\nif(%s.limit1 > 0)\n   memcpy(%s, %s.ptr, %s);", r, ccs.c_str(), r, b.c_str());
-      t += strf("\n%s += %s;", ccs.c_str(), b.c_str());
+      appendf(t, "\nif(%s.limit1 > 0)\n   memcpy(%s, %s.ptr, %s);", r, ccs.c_str(), r, b.c_str());
+      appendf(t, "\n%s += %s;", ccs.c_str(), b.c_str());
     }
   } else {
     // The value's own bytes first; each later step is tested as it is taken.
@@ -189,11 +189,11 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
                     support_.bounds_exceeded().c_str(),
                     c_string_text("\n extracting from the casted character space up to subscript").c_str(),
                     support_.position(line), "unsigned", ccs.c_str(), record.c_str(), "unsigned", record.c_str());
-    t += strf("\n%s = 1;", flag.c_str());
-    t += strf("\n%s = &(%s);", ccs.c_str(), element.c_str());
+    appendf(t, "\n%s = 1;", flag.c_str());
+    appendf(t, "\n%s = &(%s);", ccs.c_str(), element.c_str());
     t += u ? strf("\n%s = *((%s *)%s);", value.c_str(), type.c_str(), ccs.c_str())
            : strf("\nmemcpy(&(%s), %s, sizeof(%s));", value.c_str(), ccs.c_str(), type.c_str());
-    t += strf("\n%s += sizeof(%s);", ccs.c_str(), type.c_str());
+    appendf(t, "\n%s += sizeof(%s);", ccs.c_str(), type.c_str());
     for (const auto& p : collect.parts) {
       const char* r = p.record.c_str();
       const Symbol& s = symbols_[p.sym];
@@ -205,7 +205,7 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
       if (s.dim_count() == 1) {
         t += u ? strf("\n%s.occurs = %s->occurs;", r, stored.c_str())
                : strf("\nmemcpy(&(%s.occurs), &(%s->occurs), sizeof(%s));", r, stored.c_str(), "unsigned");
-        t += strf("\n%s.limit1 = %s.occurs;", r, r);
+        appendf(t, "\n%s.limit1 = %s.occurs;", r, r);
       } else {
         for (int k = 1; k <= s.dim_count(); ++k)
           t += u ? strf("\n%s.limit%d = %s->limit%d;", r, k, stored.c_str(), k)
@@ -217,16 +217,16 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
       std::string chain;
       if (s.dim_count() == 1) chain += strf("%s.occurs = ", r);
       for (int k = 1; k <= s.dim_count(); ++k) chain += strf("%s.limit%d = %s", r, k, k < s.dim_count() ? "" : "0;");
-      t += strf("\n%s.ptr = NULL;\nif(%s.limit1 > 0) {", r, r);
-      t += strf("\n   %s.ptr = malloc(%s);\n   if(%s.ptr == NULL)\n      %s = %s", r, b.c_str(), r, flag.c_str(),
+      appendf(t, "\n%s.ptr = NULL;\nif(%s.limit1 > 0) {", r, r);
+      appendf(t, "\n   %s.ptr = malloc(%s);\n   if(%s.ptr == NULL)\n      %s = %s", r, b.c_str(), r, flag.c_str(),
                 chain.c_str());
-      t += strf("\n   else\n      memcpy(%s.ptr, %s - (%s), %s);\n}", r, ccs.c_str(), b.c_str(), b.c_str());
+      appendf(t, "\n   else\n      memcpy(%s.ptr, %s - (%s), %s);\n}", r, ccs.c_str(), b.c_str(), b.c_str());
     }
     Repoint repoint(symbols_, [this](int depth) { return walk_counter(depth); }, t);
     walker.walk_structure(tag, value, "", 0, repoint, t);
-    t += strf("\nif(!%s) {", flag.c_str()) + memory_failure(support_.position(line), "   ") + "\n}";
+    appendf(t, "\nif(!%s) {%s\n}", flag.c_str(), memory_failure(support_.position(line), "   ").c_str());
   }
-  t += strf("\nadded_length = %s - &(%s);", ccs.c_str(), element.c_str());
+  appendf(t, "\nadded_length = %s - &(%s);", ccs.c_str(), element.c_str());
   fn().cast_assigned = true;
   Operand ro = pop_operand();
   Operand& e = operand(left);

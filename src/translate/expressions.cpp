@@ -239,7 +239,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       std::string t = temporary(e.type_bits);
       const char* step = op.tok == T_PLUSPLUS ? "+" : "-";
       Code write = written_copy(e);
-      e.code += strf("\n%s = %s;", t.c_str(), e.value.c_str());
+      appendf(e.code, "\n%s = %s;", t.c_str(), e.value.c_str());
       e.code += std::move(write);
       std::string store = strf("%s = %s %s 1", e.value.c_str(), t.c_str(), step);
       if (fix == Fix::Prefix) {
@@ -255,7 +255,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       e.emit = true;
     } else {
       std::string t = temporary(e.type_bits);
-      code(i) += strf("\n%s = %s;\n%s%s;", t.c_str(), e.value.c_str(), e.value.c_str(), o.c_str());
+      appendf(code(i), "\n%s = %s;\n%s%s;", t.c_str(), e.value.c_str(), e.value.c_str(), o.c_str());
       e.value = t;
       e.emit = false;
     }
@@ -382,12 +382,12 @@ void Translator::logical_and(const Token& op) {
     if (l.true_label) {
       std::string t = true_name(l.true_label);
       if (last_goto_is_true(text.text()))
-        text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
+        appendf(text, "\ngoto %s;\n%s:", f.c_str(), t.c_str());
       else
         text += "\n" + t + ":";
     }
   } else {
-    text += strf("\nif(!(%s)) goto %s;", l.value.c_str(), f.c_str());
+    appendf(text, "\nif(!(%s)) goto %s;", l.value.c_str(), f.c_str());
   }
   Operand rv = pop_operand();
   Code& joined = code(left);
@@ -425,12 +425,12 @@ void Translator::logical_or(const Token& op) {
     if (l.false_label) {
       std::string f = false_name(l.false_label);
       if (!last_goto_is_true(text.text()))
-        text += strf("\ngoto %s;\n%s:", t.c_str(), f.c_str());
+        appendf(text, "\ngoto %s;\n%s:", t.c_str(), f.c_str());
       else
         text += "\n" + f + ":";
     }
   } else {
-    text += strf("\nif(%s) goto %s;", l.value.c_str(), t.c_str());
+    appendf(text, "\nif(%s) goto %s;", l.value.c_str(), t.c_str());
   }
   Operand rv = pop_operand();
   Code& joined = code(left);
@@ -519,9 +519,9 @@ void Translator::conditional(const Token& question, const Token& colon) {
   Operand ob = pop_operand();
   Code& joined = code(a);
   joined += std::move(ob.code);
-  joined += strf("\n%s = %s;\ngoto %s;\n%s:", t.c_str(), ob.value.c_str(), skip.c_str(), f.c_str());
+  appendf(joined, "\n%s = %s;\ngoto %s;\n%s:", t.c_str(), ob.value.c_str(), skip.c_str(), f.c_str());
   joined += std::move(oc.code);
-  joined += strf("\n%s = %s;\n%s:", t.c_str(), oc.value.c_str(), skip.c_str());
+  appendf(joined, "\n%s = %s;\n%s:", t.c_str(), oc.value.c_str(), skip.c_str());
   Operand& e = operand(a);
   e.ref.reset();
   e.value = t;
@@ -573,11 +573,11 @@ void Translator::conditional_object(int a, const std::string& false_label, const
   const char* form = aggregate ? "\n%s = &(%s);" : "\n%s = %s;";
   Code& joined = code(a);
   joined += std::move(ob.code);
-  joined += strf(form, p.c_str(), object(ob).c_str());
-  joined += strf("\ngoto %s;\n%s:", skip.c_str(), false_label.c_str());
+  appendf(joined, form, p.c_str(), object(ob).c_str());
+  appendf(joined, "\ngoto %s;\n%s:", skip.c_str(), false_label.c_str());
   joined += std::move(oc.code);
-  joined += strf(form, p.c_str(), object(oc).c_str());
-  joined += strf("\n%s:", skip.c_str());
+  appendf(joined, form, p.c_str(), object(oc).c_str());
+  appendf(joined, "\n%s:", skip.c_str());
   Operand& e = operand(a);
   Operand result = model;
   result.code = std::move(e.code);

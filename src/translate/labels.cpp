@@ -93,11 +93,11 @@ std::string Translator::control_on(int i) {
   if (e.true_label) {
     std::string t = true_name(e.true_label);
     if (last_goto_is_true(text.text()))
-      text += strf("\ngoto %s;\n%s:", f.c_str(), t.c_str());
+      appendf(text, "\ngoto %s;\n%s:", f.c_str(), t.c_str());
     else
       text += "\n" + t + ":";
   } else if (!e.false_label) {
-    text += strf("\nif(!(%s)) goto %s;", e.value.c_str(), f.c_str());
+    appendf(text, "\nif(!(%s)) goto %s;", e.value.c_str(), f.c_str());
   }
   e.false_label = number;
   e.true_label = 0;
@@ -110,7 +110,7 @@ void Translator::to_value(int i) {
   std::string t = temporary(4);
   Code& text = code(i);
   text.prepend(strf("\n%s = 0;", t.c_str()));
-  text += strf("\n%s = 1;\n%s:", t.c_str(), f.c_str());
+  appendf(text, "\n%s = 1;\n%s:", t.c_str(), f.c_str());
   Operand& e = operand(i);
   e.value = t;
   e.type_bits = 4;

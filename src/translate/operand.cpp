@@ -1,6 +1,9 @@
 #include "translate/operand.h"
 
 #include <algorithm>
+#include <cstdarg>
+
+#include "common/text.h"
 
 namespace ycc {
 
@@ -112,6 +115,13 @@ void Code::apply(const std::vector<Edit>& edits) {
   remap(markers_);
   remap(inserts_);
   text_ = std::move(out);
+}
+
+void appendf(Code& code, const char* fmt, ...) {
+  va_list ap;
+  va_start(ap, fmt);
+  vappendf(code.appendable(), fmt, ap);
+  va_end(ap);
 }
 
 }  // namespace ycc

@@ -74,6 +74,9 @@ class Code {
   std::vector<size_t> inserts_;  // positions of the letters of "##x" markers
 };
 
+// Formatted plain text appended to a code, as strf would make it.
+void appendf(Code& code, const char* fmt, ...) __attribute__((format(printf, 2, 3)));
+
 // A space reference being read: identifier, then subscripts and members.
 // Subscripts are evaluated first (into temporaries when they need code);
 // the checks of every component follow, in order.

@@ -36,13 +36,13 @@ void ResizeFunctions::generate(int number, int sym) {
 
   std::string header = strf("\nstatic int %s(struct %s *meta, ", r.c_str(), meta.c_str());
   for (int k = 1; k <= n; ++k)
-    header += strf("%s sub%d, int resize_num%d, int resize_pct%d%s", u, k, k, k, k < n ? ", " : ")");
+    appendf(header, "%s sub%d, int resize_num%d, int resize_pct%d%s", u, k, k, k, k < n ? ", " : ")");
   ws_.globals += header + ";";
   ws_.deferred += definitions;
   ws_.start_resize_function(header);
 
   std::string& b = ws_.deferred;
-  b += strf("\n%s new_size, lim_a, lim_b, lim_c;\nvoid *new_ptr;\nstruct %s old;%s", u, meta.c_str(),
+  appendf(b, "\n%s new_size, lim_a, lim_b, lim_c;\nvoid *new_ptr;\nstruct %s old;%s", u, meta.c_str(),
             n > 1 ? "\nchar use_realloc = 'y';" : "");
   if (zeroed) b += strf("\n%s old_size;", u);
   for (int k = 1; k <= n; ++k) b += strf("\n%s new_limit%d;", u, k);
@@ -52,7 +52,7 @@ void ResizeFunctions::generate(int number, int sym) {
   // plus the resize number, and the limit plus the percentage of it; the
   // division comes first, so below 100 the percentage adds nothing.
   for (int k = 1; k <= n; ++k)
-    b += strf(
+    appendf(b, 
         "\nif(sub%d >= meta->limit%d) {%s\n   lim_a = sub%d + 1;\n   lim_b = resize_num%d + meta->limit%d;"
         "\n   lim_c = resize_pct%d * (meta->limit%d / 100) + meta->limit%d;\n   if(lim_a > lim_b)"
         "\n      {if(lim_a > lim_c)\n          new_limit%d = lim_a;\n       else\n          new_limit%d = lim_c;}"
@@ -66,17 +66,17 @@ void ResizeFunctions::generate(int number, int sym) {
     b += "\n\nnew_size = new_limit1;";
     first = 2;
   } else {
-    b += strf("\n\nnew_size = sizeof(%s);", type.c_str());
+    appendf(b, "\n\nnew_size = sizeof(%s);", type.c_str());
   }
   for (int k = first; k <= n; ++k)
-    b += strf("\nif((new_size * new_limit%d) / new_size != new_limit%d)\n   return FALSE;\nnew_size *= new_limit%d;", k,
+    appendf(b, "\nif((new_size * new_limit%d) / new_size != new_limit%d)\n   return FALSE;\nnew_size *= new_limit%d;", k,
               k, k);
 
   if (zeroed) {
-    b += strf("\n\nold_size = sizeof(%s);", type.c_str());
+    appendf(b, "\n\nold_size = sizeof(%s);", type.c_str());
     for (int k = 1; k <= n; ++k) b += strf("\nold_size *= meta->limit%d;", k);
   }
-  b += strf(
+  appendf(b, 
       "\n\nif(meta->limit1 == 0) {\n   new_ptr = malloc(new_size);\n   if(new_ptr == NULL)\n      return FALSE;%s"
       "\n   }\nelse%s\n   {\n   new_ptr = realloc(meta->ptr, new_size);\n   if(new_ptr == NULL)\n      return FALSE;%s"
       "\n   }",
@@ -97,7 +97,7 @@ void ResizeFunctions::generate(int number, int sym) {
       for (const std::string& name : *list) declare(name);
     auto strides = [&](const std::vector<std::string>& names, const char* limit) {
       for (int k = 1; k < n; ++k) {
-        b += strf("\n   %s = (", names[static_cast<size_t>(k - 1)].c_str());
+        appendf(b, "\n   %s = (", names[static_cast<size_t>(k - 1)].c_str());
         for (int d = k + 1; d <= n; ++d) b += strf(limit, d, d < n ? " * " : "");
         b += ");";
       }
@@ -106,7 +106,7 @@ void ResizeFunctions::generate(int number, int sym) {
     strides(old, "meta->limit%d%s");
     for (int k = 1; k <= n; ++k) {
       const char* c = counters[static_cast<size_t>(k - 1)].c_str();
-      b += strf("\n   for(%s = 0; %s < meta->limit%d; ++%s) {", c, c, k, c);
+      appendf(b, "\n   for(%s = 0; %s < meta->limit%d; ++%s) {", c, c, k, c);
     }
     auto index = [&](const std::vector<std::string>& stride) {
       std::string x;
@@ -117,8 +117,8 @@ void ResizeFunctions::generate(int number, int sym) {
       }
       return x;
     };
-    b += strf("\n      *(((%s)(new_ptr)) + (%s)) = ", pointer.c_str(), index(fresh).c_str());
-    b += strf("\n      *(((%s)(meta->ptr)) + (%s));", pointer.c_str(), index(old).c_str());
+    appendf(b, "\n      *(((%s)(new_ptr)) + (%s)) = ", pointer.c_str(), index(fresh).c_str());
+    appendf(b, "\n      *(((%s)(meta->ptr)) + (%s));", pointer.c_str(), index(old).c_str());
     b += "\n   }";
     for (int k = 1; k < n; ++k) b += "}";
     b += "\n   free(meta->ptr);\n   }";

@@ -62,9 +62,9 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
       // A structure in a varspace's block moves when the block grows, and
       // fresh elements are zeroed: its fixed-space member's companion is
       // pointed at the member, with its sizes, before it is used.
-      r.checks += strf("\n%s.ptr = %s;", r.record.c_str(), name.c_str());
+      appendf(r.checks, "\n%s.ptr = %s;", r.record.c_str(), name.c_str());
       for (int k = 1; k <= s.dim_count(); ++k)
-        r.checks += strf("\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
+        appendf(r.checks, "\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
     }
   } else {
     r.object = pointer && structure ? "(*" + name + ")" : name;
@@ -144,7 +144,7 @@ void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
       code(i) += std::move(x_op.code);
       if (ok) {
         std::string t = temporary(x_op.type_bits ? x_op.type_bits : 4);
-        code(i) += strf("\n%s = %s;", t.c_str(), x_op.value.c_str());
+        appendf(code(i), "\n%s = %s;", t.c_str(), x_op.value.c_str());
         sub.text = t;
       }
     }
@@ -250,10 +250,10 @@ std::string Translator::memory_failure(int position, const char* indent) {
   std::string t;
   if (options_.memory_locations) t += strf("\n%s%s(%d);", indent, support_.out_of_memory().c_str(), position);
   if (fn().handles(memory_exception)) {
-    t += strf("\n%sgoto %s;", indent, generated("exception", memory_exception).c_str());
+    appendf(t, "\n%sgoto %s;", indent, generated("exception", memory_exception).c_str());
   } else {
-    t += strf("\n%s%s = %d;", indent, generated("exception").c_str(), memory_exception);
-    t += strf("\n%sgoto %s;", indent, generated("finish").c_str());
+    appendf(t, "\n%s%s = %d;", indent, generated("exception").c_str(), memory_exception);
+    appendf(t, "\n%sgoto %s;", indent, generated("finish").c_str());
   }
   return t;
 }
@@ -268,7 +268,7 @@ std::string Translator::resize_call(int sym, const std::string& record, const st
     const Dimension& dim = s.dims[static_cast<size_t>(d - 1)];
     bool has = d <= static_cast<int>(subs.size());
     bool last = d == static_cast<int>(subs.size());
-    t += strf("(%s)(%s)%s, %d, %d%s", "unsigned", has ? subs[static_cast<size_t>(d - 1)].c_str() : "0",
+    appendf(t, "(%s)(%s)%s, %d, %d%s", "unsigned", has ? subs[static_cast<size_t>(d - 1)].c_str() : "0",
               last ? added.c_str() : "", dim.resize_num, dim.resize_pct, d < n ? ", " : ")) {");
   }
   return t + memory_failure(position, "      ") + "\n   }";
@@ -307,7 +307,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
     }
     std::string t = "\nif(";
     for (int i = 0; i < k; ++i)
-      t += strf("(%s)(%s)%s >= (%s.limit%d)%s", "unsigned", sub(i).c_str(), add(i).c_str(), record.c_str(), i + 1,
+      appendf(t, "(%s)(%s)%s >= (%s.limit%d)%s", "unsigned", sub(i).c_str(), add(i).c_str(), record.c_str(), i + 1,
                 i + 1 < k ? " || " : ")");
     c += t + resize_call(sym, record, subs, added, position);
     c.marker('b');
@@ -317,16 +317,16 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
     if (one) c.marker('h');
     std::string t = "\nif(";
     for (int i = 0; i < k; ++i)
-      t += strf("(%s)(%s) < 0 || (%s)(%s)%s >= (%s.limit%d)%s", "signed", sub(i).c_str(), "unsigned",
+      appendf(t, "(%s)(%s) < 0 || (%s)(%s)%s >= (%s.limit%d)%s", "signed", sub(i).c_str(), "unsigned",
                 sub(i).c_str(), add(i).c_str(), record.c_str(), i + 1, i + 1 < k ? " || " : ")");
     t += report;
     for (int i = 0; i < k; ++i) t += strf("(%s)(%s)%s, ", "unsigned", sub(i).c_str(), add(i).c_str());
     c += t + limits();
     if (one) {
       c.marker('i');
-      c += strf("\nif((%s)(%s) < 0 || (%s)(%s)%s >= (%s.occurs))", "signed", sub(0).c_str(), "unsigned",
+      appendf(c, "\nif((%s)(%s) < 0 || (%s)(%s)%s >= (%s.occurs))", "signed", sub(0).c_str(), "unsigned",
                 sub(0).c_str(), added.c_str(), record.c_str());
-      c += strf("\n   %s(\"%s\", %d, %d, (%s)(%s)%s, (%s)(%s.occurs));", support_.bounds_exceeded().c_str(),
+      appendf(c, "\n   %s(\"%s\", %d, %d, (%s)(%s)%s, (%s)(%s.occurs));", support_.bounds_exceeded().c_str(),
                 c_string_text(name).c_str(), position, 2, "unsigned", sub(0).c_str(), added.c_str(), "unsigned",
                 record.c_str());
       c.marker('j');
@@ -336,7 +336,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
   if (one) {
     // A written element raises occurs to one past it.
     c.marker('e');
-    c += strf("\nif((%s)(%s)%s + 1 > (%s.occurs))\n   (%s.occurs) = (%s)(%s)%s + 1;", "unsigned", sub(0).c_str(),
+    appendf(c, "\nif((%s)(%s)%s + 1 > (%s.occurs))\n   (%s.occurs) = (%s)(%s)%s + 1;", "unsigned", sub(0).c_str(),
               added.c_str(), record.c_str(), record.c_str(), "unsigned", sub(0).c_str(), added.c_str());
     c.marker('f');
   }
@@ -560,7 +560,7 @@ void Translator::sizeof_expr(const Token& keyword) {
   if (!e.code.empty() && !text.empty()) {
     // The operand's code runs; the size goes to a temporary after it.
     std::string t = temporary(128);
-    e.code += strf("\n%s = %s;", t.c_str(), text.c_str());
+    appendf(e.code, "\n%s = %s;", t.c_str(), text.c_str());
     text = t;
   }
   e.value = text;

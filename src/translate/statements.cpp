@@ -63,8 +63,8 @@ void Translator::close_function_body(const Token& rbrace) {
   ws_.to_fragment = false;
   if (fn().actuals > 0 && diag_.errors == 0) {
     std::string actuals = generated("actuals");
-    ws_.wd_locals += strf("\nvoid *%s[%d];", actuals.c_str(), fn().actuals);
-    ws_.wd_init_code += strf("\n%s[0] = &(%s);", actuals.c_str(), generated("exception").c_str());
+    appendf(ws_.wd_locals, "\nvoid *%s[%d];", actuals.c_str(), fn().actuals);
+    appendf(ws_.wd_init_code, "\n%s[0] = &(%s);", actuals.c_str(), generated("exception").c_str());
   }
   stack_.clear();
   fn_.reset();
@@ -276,7 +276,7 @@ void Translator::raise_stmt(const Token& number) {
   int n = 0;
   exception_number(number, n);
   push_operand(number.line);
-  code(top_index()) += strf("\n%s = %d;\ngoto %s;", generated("exception").c_str(), n,
+  appendf(code(top_index()), "\n%s = %d;\ngoto %s;", generated("exception").c_str(), n,
                            generated("finish").c_str());
 }
 

@@ -30,7 +30,7 @@ std::string SupportFunctions::files_table() const {
       if (c == '\\' || c == '"') name += '\\';
       name += c;
     }
-    t += strf("\"%s\"%s", name.c_str(), i + 1 < table_.size() ? ", " : "};");
+    appendf(t, "\"%s\"%s", name.c_str(), i + 1 < table_.size() ? ", " : "};");
   }
   return t;
 }
@@ -41,7 +41,7 @@ void SupportFunctions::generate(Workspace& ws, const Options& options, int sourc
   if (options.memory_locations) {
     std::string header = strf("\nstatic void %s(int line)", out_of_memory().c_str());
     ws.globals += header + ";";
-    ws.deferred += strf("\n\n%s\n{\n%s", header.c_str(), files_table().c_str());
+    appendf(ws.deferred, "\n\n%s\n{\n%s", header.c_str(), files_table().c_str());
     ws.deferred +=
         "\n\nfprintf(stderr, \"\\nmemory request failed:\\n\");\nfprintf(stderr, \"\\n failed when requested "
         "memory,\\n\");\nfprintf(stderr, \" at line %d in file %s\\n\\n\",\n       line % 1000000, files[line / "
@@ -51,9 +51,9 @@ void SupportFunctions::generate(Workspace& ws, const Options& options, int sourc
     std::string header =
         strf("\nstatic void %s(char *name, int line, int additional_args, ...)", bounds_exceeded().c_str());
     ws.globals += header + ";";
-    ws.deferred += strf("\n\n#include <stdarg.h>\n\n%s\n{\nint wrk1;\n%s sub, limit;\n%s", header.c_str(), "unsigned",
+    appendf(ws.deferred, "\n\n#include <stdarg.h>\n\n%s\n{\nint wrk1;\n%s sub, limit;\n%s", header.c_str(), "unsigned",
                         files_table().c_str());
-    ws.deferred += strf(
+    appendf(ws.deferred, 
         "\nva_list ap;\nva_start(ap, additional_args);\n\nfprintf(stderr, \"\\nexecution aborted: space bounds "
         "exceeded:\\n\\n\");\nfprintf(stderr, \" executed this reference: %%s\", name);\nfor(wrk1 = 0; wrk1 < "
         "additional_args / 2; ++wrk1)\n    {sub = va_arg(ap, %s);\n     fprintf(stderr, \"[%s]\", sub);}"

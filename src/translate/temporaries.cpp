@@ -129,7 +129,7 @@ std::string Translator::return_temporary(int ret) {
     add_local("\n" + decl_.emitter().declaration_named(ret, name));
     // A space a library call returns into the temporary is released at the exit.
     if (r.is_var == 'y' && diag_.errors == 0)
-      ws_.function_exit += strf("\nif(%s.limit1 > 0) {\nfree(%s.ptr);\n;}", name.c_str(), name.c_str());
+      appendf(ws_.function_exit, "\nif(%s.limit1 > 0) {\nfree(%s.ptr);\n;}", name.c_str(), name.c_str());
   }
   return name;
 }
