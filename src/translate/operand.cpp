@@ -117,6 +117,22 @@ void Code::apply(const std::vector<Edit>& edits) {
   text_ = std::move(out);
 }
 
+void Reference::clear() {
+  sym = root = last_sym = subscripted = 0;
+  record.clear();
+  object.clear();
+  written.clear();
+  written_name.clear();
+  subs.clear();
+  checks.clear();
+  last_checks = checks_at = 0;
+  pointer_record = heap = finished = occurs_or_limit = false;
+  path.clear();
+  last_record.clear();
+  last_name.clear();
+  last_given.clear();
+}
+
 void appendf(Code& code, const char* fmt, ...) {
   va_list ap;
   va_start(ap, fmt);

@@ -30,6 +30,13 @@ class Code {
     return std::move(text_);
   }
 
+  // Empty again, keeping the room of its text.
+  void clear() {
+    text_.clear();
+    markers_.clear();
+    inserts_.clear();
+  }
+
   // The text for writers that only append plain text at its end.
   std::string& appendable() { return text_; }
   // Plain text, which holds no marker line.
@@ -109,6 +116,9 @@ struct Reference {
   std::string last_record;
   std::string last_name;
   std::vector<std::string> last_given;
+
+  // Back to a fresh reference, keeping the room of its texts and lists.
+  void clear();
 };
 
 // One entry of the expression/statement stack.

@@ -345,6 +345,21 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
 
 // ---- The actions ---------------------------------------------------------------------------
 
+std::shared_ptr<Reference> Translator::new_reference() {
+  // A few records past the last one taken are tried; most are free again.
+  for (size_t tries = 0; tries < 4 && !spare_refs_.empty(); ++tries) {
+    if (next_spare_ >= spare_refs_.size()) next_spare_ = 0;
+    std::shared_ptr<Reference>& r = spare_refs_[next_spare_++];
+    if (r.use_count() == 1) {
+      r->clear();
+      return r;
+    }
+  }
+  spare_refs_.push_back(std::make_shared<Reference>());
+  next_spare_ = spare_refs_.size();
+  return spare_refs_.back();
+}
+
 void Translator::identifier(const Token& name) {
   Operand& e = push_operand(name.line);
   std::string n(name.text);
@@ -355,9 +370,13 @@ void Translator::identifier(const Token& name) {
     report(e, strf("'%s' is an undeclared identifier", n.c_str()));
     return;
   }
-  fill_from_symbol(e, sub);
-  if (symbols_[sub].name_is != 'v') return;
-  auto r = std::make_shared<Reference>();
+  if (symbols_[sub].name_is != 'v') {
+    fill_from_symbol(e, sub);
+    return;
+  }
+  // A variable: the reference sets what the symbol tells.
+  ++symbols_[sub].ref_count;
+  std::shared_ptr<Reference> r = new_reference();
   r->written = symbols_[sub].name;
   enter_component(e, *r, sub, "");
   e.ref = std::move(r);

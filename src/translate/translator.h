@@ -243,6 +243,11 @@ class Translator {
   const Names& names_;
 
   std::vector<Operand> stack_;
+  // References live for a statement; their records are reused, with the
+  // room their texts had, once no operand holds them.
+  std::vector<std::shared_ptr<Reference>> spare_refs_;
+  size_t next_spare_ = 0;
+  std::shared_ptr<Reference> new_reference();
   std::unique_ptr<FunctionContext> fn_;
   ResizeFunctions resize_;
   SupportFunctions support_;
