@@ -88,7 +88,8 @@ std::string system_error_text(int err) { return std::strerror(err); }
 
 bool read_file(const std::string& name, std::string& text, int& err) {
   struct stat st;
-  if (stat(name.c_str(), &st) == 0 && S_ISDIR(st.st_mode)) {
+  bool known = stat(name.c_str(), &st) == 0;
+  if (known && S_ISDIR(st.st_mode)) {
     err = EISDIR;
     return false;
   }
@@ -98,6 +99,8 @@ bool read_file(const std::string& name, std::string& text, int& err) {
     return false;
   }
   text.clear();
+  // The size is a hint only: what is read counts.
+  if (known && S_ISREG(st.st_mode) && st.st_size > 0) text.reserve(static_cast<size_t>(st.st_size) + 1);
   char buf[65536];
   size_t n;
   while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) text.append(buf, n);

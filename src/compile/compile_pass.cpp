@@ -47,9 +47,10 @@ void dump_tokens(const TokenBuffer& tokens, std::ostream& out) {
 
 void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
                                       const std::string& intermediate, const std::string& output,
-                                      const std::string& source, const std::string& prefix) {
+                                      const std::string& source, const std::string& prefix,
+                                      std::string* text) {
   try {
-    compile(options, diag, intermediate, output, source, prefix);
+    compile(options, diag, intermediate, output, source, prefix, text);
   } catch (const std::bad_alloc&) {
     fatal("insufficient memory");
   } catch (const TokenBufferFailure& f) {
@@ -61,7 +62,7 @@ void CompileSession::compile_one_file(const Options& options, Diagnostics& diag,
 
 void CompileSession::compile(const Options& options, Diagnostics& diag,
                              const std::string& intermediate, const std::string& output,
-                             const std::string& source, const std::string& prefix_arg) {
+                             const std::string& source, const std::string& prefix_arg, std::string* text) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
   StreamCloser work{std::tmpfile()};
@@ -74,17 +75,22 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
   ws.attach_work_file(work.f);
   ws.set_prefix(prefix);
 
-  StreamCloser input{std::fopen(intermediate.c_str(), "r")};
-  if (!input.f)
-    fatal(strf("unable to open preprocessed file '%s': %s", intermediate.c_str(),
-               system_error_text(errno).c_str()));
+  std::string read;
+  if (!text) {
+    StreamCloser input{std::fopen(intermediate.c_str(), "r")};
+    if (!input.f)
+      fatal(strf("unable to open preprocessed file '%s': %s", intermediate.c_str(),
+                 system_error_text(errno).c_str()));
+    read = read_all(input.f, intermediate);
+    text = &read;
+  }
 
   const std::string halted =
       strf(" compilation of '%s' halted\n ** too many errors **\n", source.c_str());
   bool was_halted = false;
   int end_line = 0;  // where the lexer stood at the end of the file
   try {
-    TokenBuffer tokens = tokenize(read_all(input.f, intermediate), diag.files(), diag.err());
+    TokenBuffer tokens = tokenize(std::move(*text), diag.files(), diag.err());
     end_line = tokens.tokens.back().line;
     if (options.dump_tokens) dump_tokens(tokens, diag.err());
     SyntaxErrors syntax(diag);

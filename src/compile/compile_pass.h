@@ -24,9 +24,11 @@ class CompileSession {
   // An empty `prefix` keeps the generated-names prefix "zz". Memory
   // exhaustion is the fatal "insufficient memory"; the token buffers and the
   // parser's nesting limit throw ParserResourceExit.
+  // `text`, when given, is the intermediate file's text, taken over instead
+  // of reading the file back.
   void compile_one_file(const Options& options, Diagnostics& diag, const std::string& intermediate,
                         const std::string& output, const std::string& source,
-                        const std::string& prefix);
+                        const std::string& prefix, std::string* text = nullptr);
 
   int files_compiled() const { return files_compiled_; }
   // The run's workspace (null before the first compiled file).
@@ -34,7 +36,8 @@ class CompileSession {
 
  private:
   void compile(const Options& options, Diagnostics& diag, const std::string& intermediate,
-               const std::string& output, const std::string& source, const std::string& prefix);
+               const std::string& output, const std::string& source, const std::string& prefix,
+               std::string* text);
 
   std::unique_ptr<Workspace> workspace_;
   int files_compiled_ = 0;

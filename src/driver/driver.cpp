@@ -104,7 +104,7 @@ void Driver::preprocess_and_compile(const SourceFile& file, PpJob& job) {
     out_ << " compile    '" << file.source_name << "'\n";
     out_.flush();
     session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
-                              file.source_name, options_.prefix);
+                              file.source_name, options_.prefix, &job.intermediate_text);
   }
 }
 

@@ -99,21 +99,22 @@ inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c
 
 class Lexer {
  public:
-  // The lexer keeps its own copy of the text: every token's text is a view
-  // into it, so a token costs no copy.
-  Lexer(std::string_view text, FileTable& files, std::ostream& err) : files_(files), err_(err) {
+  // The lexer takes the text over: every token's text is a view into it,
+  // so a token costs no copy.
+  Lexer(std::string text, FileTable& files, std::ostream& err) : files_(files), err_(err) {
     try {
-      store_.reserve(text.size() + 1);
-      store_.assign(text.begin(), text.end());
-      store_.push_back('\0');
+      // The text's own block, never a string's inner buffer, so that moving
+      // the string to the token buffer keeps the views valid.
+      store_ = std::move(text);
+      store_.reserve(std::max<size_t>(store_.size(), 16));
       // Room for a token every two bytes, which ordinary text stays under:
       // pages never touched cost nothing, and no growth copies the tokens.
-      tokens_.reserve(text.size() / 2 + 16);
+      tokens_.reserve(store_.size() / 2 + 16);
     } catch (const std::bad_alloc&) {
       throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
-                                    static_cast<int>(std::min<size_t>(text.size() + 1, INT_MAX)))};
+                                    static_cast<int>(std::min<size_t>(store_.size() + 1, INT_MAX)))};
     }
-    s_ = std::string_view(store_.data(), text.size());
+    s_ = std::string_view(store_.data(), store_.size());
   }
 
   TokenBuffer run();
@@ -174,7 +175,7 @@ class Lexer {
   std::vector<ExternRange> ranges_;
   size_t current_range_ = 0;
   std::vector<Token> tokens_;
-  std::vector<char> store_;
+  std::string store_;  // ends in the string's NUL, which stops every scan
 };
 
 void Lexer::emit(int tok, std::string_view text) {
@@ -394,8 +395,8 @@ TokenBuffer Lexer::run() {
 
 }  // namespace
 
-TokenBuffer tokenize(std::string_view text, FileTable& files, std::ostream& err) {
-  return Lexer(text, files, err).run();
+TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err) {
+  return Lexer(std::move(text), files, err).run();
 }
 
 }  // namespace ycc

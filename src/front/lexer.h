@@ -21,12 +21,12 @@ struct ExternRange {
 };
 
 // Every token of one file, up to and including Eof. Token texts are views of
-// `text_store`, the lexer's copy of the file's text, which the buffer owns;
+// `text_store`, the file's text, which the buffer owns;
 // the buffer can be moved but not copied, so the texts never dangle.
 struct TokenBuffer {
   std::vector<Token> tokens;
   std::vector<ExternRange> extern_ranges;
-  std::vector<char> text_store;
+  std::string text_store;
 
   TokenBuffer() = default;
   TokenBuffer(TokenBuffer&&) = default;
@@ -53,6 +53,6 @@ struct TokenBufferFailure {
 // entered into `files` (which lives for the run); invalid characters are
 // reported on `err` in the lexer's own form, which is not counted. Throws
 // TokenBufferFailure when memory runs out.
-TokenBuffer tokenize(std::string_view text, FileTable& files, std::ostream& err);
+TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err);
 
 }  // namespace ycc

@@ -2,6 +2,7 @@
 // file with merge markers replaced by their slots and "##" regions resolved.
 #include <cerrno>
 #include <cstdlib>
+#include <memory>
 
 #include "common/output_file.h"
 #include "common/text.h"
@@ -48,10 +49,8 @@ class LineReader {
       }
       buffer_.erase(0, at_);
       at_ = 0;
-      size_t old = buffer_.size();
-      buffer_.resize(old + chunk);
-      size_t got = std::fread(buffer_.data() + old, 1, chunk, in_);
-      buffer_.resize(old + got);
+      size_t got = std::fread(piece_.get(), 1, chunk, in_);
+      buffer_.append(piece_.get(), got);
       if (got < chunk) {
         if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
         eof_ = true;
@@ -62,6 +61,7 @@ class LineReader {
  private:
   static constexpr size_t chunk = 1 << 20;
   std::FILE* in_;
+  std::unique_ptr<char[]> piece_{new char[chunk]};  // read into without being cleared first
   std::string buffer_;
   size_t at_ = 0;
   bool eof_ = false;

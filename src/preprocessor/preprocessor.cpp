@@ -186,6 +186,8 @@ void Preprocessor::write_intermediate() {
   }
   if (ok) {
     job_.intermediate_written = true;
+    // The compile pass reads the same text without reading the file back.
+    job_.intermediate_text = std::move(writer_.out);
     return;
   }
   // A truncated intermediate file is of no use, even with /P.
@@ -195,6 +197,8 @@ void Preprocessor::write_intermediate() {
 }
 
 void Preprocessor::run() {
+  // The output is about as long as the source; includes grow it further.
+  writer_.out.reserve(job_.source_text.size() + job_.source_text.size() / 8 + 256);
   push_file(job_.source_name, std::move(job_.source_text), false);
   while (!files_.empty()) {
     FileEntry& e = top();
