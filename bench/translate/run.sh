@@ -2,11 +2,14 @@
 # Translation cost: a generated program of about N lines (functions of loops,
 # switches, conditions with && || !, conditionals, increments and arithmetic)
 # compiled by ycc; its C output compiled by gcc -O0 -c and tcc -c. Reports the
-# least of three wall times and the peak memory of each, for N and 2N.
-# Usage: bench/translate/run.sh [build/ycc] [lines]
+# least of three wall times and the peak memory of each, for every size given
+# (default 100000 and 1000000 lines).
+# Usage: bench/translate/run.sh [build/ycc] [lines...]
 set -euo pipefail
 ycc=$(realpath "${1:-build/ycc}")
-lines=${2:-100000}
+shift || true
+sizes=("$@")
+[ ${#sizes[@]} -gt 0 ] || sizes=(100000 1000000)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -60,7 +63,7 @@ best() {  # command... -> "seconds peak_kB" (least time of three runs)
 }
 
 printf '%8s %14s %14s %14s %10s\n' lines 'ycc s/kB' 'gcc -O0 s/kB' 'tcc s/kB' 'C lines'
-for n in "$lines" $((lines * 2)); do
+for n in "${sizes[@]}"; do
   generate "$n"
   src=$(wc -l < p.yc)
   "$ycc" /L0 p.yc > /dev/null

@@ -24,6 +24,9 @@ struct Options {
   // Debugging options beyond the described ones (words beginning with "--").
   bool dump_symbols = false;          // --dump-symbols
   bool dump_tokens = false;           // --dump-tokens
+  // Faster forms of the generated C, beyond the described text.
+  bool noreturn_reports = false;      // --noreturn: the bounds report never returns
+  bool wide_subscripts = false;       // --wide-subscripts: element offsets in size_t
 };
 
 }  // namespace ycc

@@ -163,6 +163,14 @@ bool extra_option(const std::string& word, Options& options) {
     options.dump_tokens = true;
     return true;
   }
+  if (word == "--noreturn") {
+    options.noreturn_reports = true;
+    return true;
+  }
+  if (word == "--wide-subscripts") {
+    options.wide_subscripts = true;
+    return true;
+  }
   return false;
 }
 

@@ -240,7 +240,9 @@ std::string Translator::element_address(int sym, const std::string& record, cons
   std::string a = "(((" + decl_.emitter().pointer_type(sym) + ")(" + record + ".ptr)) + (";
   for (size_t i = 0; i < given.size(); ++i) {
     if (i > 0) a += " + ";
-    a += "(" + given[i] + ")";
+    // --wide-subscripts: offsets in size_t, which the C compiler may
+    // strength-reduce, instead of in unsigned int, which wraps.
+    a += options_.wide_subscripts ? "(size_t)(" + given[i] + ")" : "(" + given[i] + ")";
     for (int k = static_cast<int>(i) + 2; k <= n; ++k) a += strf(" * (%s.limit%d)", record.c_str(), k);
   }
   return a + "))";

@@ -50,6 +50,9 @@ void SupportFunctions::generate(Workspace& ws, const Options& options, int sourc
   if (options.bounds_checks) {
     std::string header =
         strf("\nstatic void %s(char *name, int line, int additional_args, ...)", bounds_exceeded().c_str());
+    // --noreturn: compilers that know the report ends the program drop the
+    // tests that an earlier failing test already decided.
+    if (options.noreturn_reports) ws.globals += "\n#ifdef __GNUC__\n__attribute__((noreturn))\n#endif";
     ws.globals += header + ";";
     appendf(ws.deferred, "\n\n#include <stdarg.h>\n\n%s\n{\nint wrk1;\n%s sub, limit;\n%s", header.c_str(), "unsigned",
                         files_table().c_str());
