@@ -27,6 +27,10 @@ struct Options {
   // Faster forms of the generated C, beyond the described text.
   bool noreturn_reports = false;      // --noreturn: the bounds report never returns
   bool wide_subscripts = false;       // --wide-subscripts: element offsets in size_t
+  // For editors, debuggers and users who weigh the checks.
+  bool gcc_diagnostics = false;       // --diagnostics=gcc: one "file:line: error: text" line each
+  bool line_directives = false;       // --line-directives: #line before each statement's C lines
+  bool report_checks = false;         // --report-checks: inserted checks per function on stdout
 };
 
 }  // namespace ycc

@@ -774,8 +774,12 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
   if (is_definition) function_ = sub;
 }
 
-void Declarations::open_function_body(const Token&, const FunctionLabels&) {
-  if (function_ && symbols_[function_].error_flags == 0) ws_.open_function_body();
+void Declarations::open_function_body(const Token& lbrace, const FunctionLabels&) {
+  if (!function_ || symbols_[function_].error_flags != 0) return;
+  // --report-checks: the checks counted after this marker are the function's.
+  if (options_.report_checks)
+    ws_.put_text('n', strf("\n#check f %d %s", lbrace.line, symbols_[function_].name.c_str()));
+  ws_.open_function_body();
 }
 
 void Declarations::close_function_body(const Token&) {

@@ -67,7 +67,10 @@ std::string Diagnostics::layout(std::string_view prefix, std::string_view text) 
 }
 
 void Diagnostics::pp_error(std::string_view text, const PpPlace* place) {
-  if (!place) {
+  if (options_.gcc_diagnostics) {
+    err_ << (place ? strf("%s:%d: error: ", place->name->c_str(), place->line) : std::string("ycc: error: ")) << text
+         << '\n';
+  } else if (!place) {
     if (pp_errors == 0) err_ << '\n';
     err_ << layout(" command line: ", text);
   } else {
@@ -95,8 +98,17 @@ void Diagnostics::compiler_message(char type, int line_code, std::string_view te
   else
     ++warnings;
   if (static_cast<int>(held_.size()) >= held_capacity) return;
-  std::string prefix = strf(" (%d) %s: ", line_code % 1000000, type == 'e' ? "**error" : "warning");
-  held_.push_back({line_code, layout(prefix, text)});
+  if (options_.gcc_diagnostics) {
+    // One line that editors parse: the file's name instead of a heading, no wrapping.
+    std::string line = strf("%s:%d: %s: ", files_.name(line_code / 1000000).c_str(), line_code % 1000000,
+                            type == 'e' ? "error" : "warning");
+    line.append(text);
+    line += '\n';
+    held_.push_back({line_code, std::move(line)});
+  } else {
+    std::string prefix = strf(" (%d) %s: ", line_code % 1000000, type == 'e' ? "**error" : "warning");
+    held_.push_back({line_code, layout(prefix, text)});
+  }
   if (!holding_) flush();
   if (errors >= options_.error_limit) throw CompileHalt{};
 }
@@ -105,7 +117,7 @@ void Diagnostics::flush() {
   comb_sort(held_, [](const Held& h) { return h.key; });
   for (const Held& h : held_) {
     int file = h.key / 1000000;
-    if (file != last_heading_) {
+    if (file != last_heading_ && !options_.gcc_diagnostics) {
       err_ << "\n (line) in '" << files_.name(file) << "'\n";
       last_heading_ = file;
     }

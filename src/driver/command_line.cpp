@@ -171,6 +171,18 @@ bool extra_option(const std::string& word, Options& options) {
     options.wide_subscripts = true;
     return true;
   }
+  if (word == "--diagnostics=gcc") {
+    options.gcc_diagnostics = true;
+    return true;
+  }
+  if (word == "--line-directives") {
+    options.line_directives = true;
+    return true;
+  }
+  if (word == "--report-checks") {
+    options.report_checks = true;
+    return true;
+  }
   return false;
 }
 

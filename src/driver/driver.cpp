@@ -7,6 +7,7 @@
 #include "common/output_file.h"
 #include "common/text.h"
 #include "diag/diagnostics.h"
+#include "driver/check_report.h"
 #include "driver/command_line.h"
 #include "compile/compile_pass.h"
 #include "preprocessor/preprocessor.h"
@@ -103,8 +104,13 @@ void Driver::preprocess_and_compile(const SourceFile& file, PpJob& job) {
   if (diag_.pp_errors == 0 && job.compile_flag == 'y') {
     out_ << " compile    '" << file.source_name << "'\n";
     out_.flush();
+    int errors_before = diag_.run_errors;
     session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
                               file.source_name, options_.prefix, &job.intermediate_text);
+    if (options_.report_checks && diag_.run_errors == errors_before && session_.workspace()) {
+      out_ << format_check_report(file.source_name, session_.workspace()->check_report(), diag_.files());
+      out_.flush();
+    }
   }
 }
 

@@ -95,6 +95,91 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
   write_all(out, kept, output_name);
 }
 
+void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_name) {
+  RegionFilter filter(options_.bounds_checks);
+  LineReader reader(work_file_);
+  std::string kept;
+  int line = output_lines_;  // lines written so far
+  bool directed = false;     // the last line written was a statement's "#line"
+  bool mapped = false;       // the C compiler counts lines of a YARL C file
+  const std::string c_name = c_string_text(output_name);
+  auto emit = [&](std::string_view body, bool newline) {
+    if (body.starts_with("#check ")) {
+      count_check(body.substr(7));
+      return;
+    }
+    if (body.starts_with("#line ")) {
+      directed = mapped = true;
+    } else if (!directed && mapped) {
+      // A line outside every statement: numbered again as a line of the C file.
+      ++line;
+      appendf(kept, "#line %d \"%s\"\n", line + 1, c_name.c_str());
+      mapped = false;
+    } else {
+      directed = false;
+    }
+    kept += body;
+    if (newline) kept += '\n';
+    ++line;
+  };
+  // Slot texts need not end a line, so the kept text is cut into lines afresh.
+  std::string partial;
+  auto feed = [&](std::string_view text) {
+    for (size_t pos = 0;;) {
+      size_t nl = text.find('\n', pos);
+      if (nl == std::string_view::npos) {
+        partial.append(text.substr(pos));
+        return;
+      }
+      if (partial.empty()) {
+        emit(text.substr(pos, nl - pos), true);
+      } else {
+        partial.append(text.substr(pos, nl - pos));
+        emit(partial, true);
+        partial.clear();
+      }
+      pos = nl + 1;
+    }
+  };
+  std::string_view raw;
+  while (reader.next(raw)) {
+    std::string_view body(raw);
+    if (body.ends_with('\n')) body.remove_suffix(1);
+    if (body.starts_with("#merge ")) {
+      std::string number(body.substr(7));
+      char* end = nullptr;
+      long n = std::strtol(number.c_str(), &end, 10);
+      if (end != number.c_str() && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
+        feed(*merge(static_cast<int>(n)).data);
+    } else if (filter.keep(body)) {
+      feed(raw);
+    }
+    if (kept.size() >= (1u << 20)) {
+      write_all(out, kept, output_name);
+      kept.clear();
+    }
+  }
+  if (!partial.empty()) emit(partial, false);
+  write_all(out, kept, output_name);
+}
+
+void Workspace::count_check(std::string_view marker) {
+  // "f LINE NAME" opens a function; "s|g|e LINE" is one check in it.
+  char kind = marker.empty() ? ' ' : marker[0];
+  std::string_view rest = marker.size() > 2 ? marker.substr(2) : std::string_view();
+  size_t blank = rest.find(' ');
+  int line = std::atoi(std::string(rest.substr(0, blank)).c_str());
+  if (kind == 'f') {
+    checks_.push_back({blank == std::string_view::npos ? std::string() : std::string(rest.substr(blank + 1)), line, {}, {}, {}});
+    return;
+  }
+  if (checks_.empty()) checks_.push_back({});
+  FunctionChecks& f = checks_.back();
+  if (kind == 's') f.subscripts.push_back(line);
+  if (kind == 'g') f.growths.push_back(line);
+  if (kind == 'e') f.exceptions.push_back(line);
+}
+
 void Workspace::assemble(const std::string& output_name) {
   // The file is written under a temporary name that a fatal error removes;
   // only a complete file takes the output's name.
@@ -102,6 +187,7 @@ void Workspace::assemble(const std::string& output_name) {
   if (!file.open()) output_open_failed(output_name);
   std::FILE* out = file.stream();
   output_name_ = output_name;
+  checks_.clear();  // kept after the file's reset, for the driver's report
   if (diag_.errors == 0) {
     if (options_.memory_locations && generate_out_of_memory) generate_out_of_memory(*this);
     if (options_.bounds_checks && generate_bounds_exceeded) generate_bounds_exceeded(*this);
@@ -124,7 +210,10 @@ void Workspace::assemble(const std::string& output_name) {
       put_text('y', "};\n");
     }
     file_ = work_file_;
-    copy_work_file(out, output_name);
+    if (options_.line_directives || options_.report_checks)
+      copy_work_file_marked(out, output_name);
+    else
+      copy_work_file(out, output_name);
   }
   if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
   if (!file.close()) output_write_failed(output_name);

@@ -41,6 +41,7 @@ void Workspace::reset() {
   globals_slot_ = curr_wd_locals_ = curr_wd_init_code_ = resize_slot_ = -1;
   emitted_ = 0;
   max_dimensions_ = 0;
+  output_lines_ = 0;
 }
 
 void Workspace::put_text(char newline_bgn, std::string_view text) {
@@ -103,7 +104,9 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
       quote = 0;
     }
     backslashes = (was_open && c == '\\') ? backslashes + 1 : 0;
-    if (column > output_width && (c == ' ' || c == ',') && quote == 0) {
+    // Under --line-directives a line is never broken: each C line of a
+    // statement has its own directive before it.
+    if (column > output_width && (c == ' ' || c == ',') && quote == 0 && !options_.line_directives) {
       out.append("\n ");
       column = 1;
     }
@@ -111,6 +114,7 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   column_ = column;
   backslashes_ = backslashes;
   quote_ = quote;
+  if (file_ != work_file_) output_lines_ += static_cast<int>(std::count(out.begin(), out.end(), '\n'));
   if (!out.empty() && std::fwrite(out.data(), 1, out.size(), file_) != out.size())
     write_failed(file_ == work_file_ ? std::string() : output_name_);
 }

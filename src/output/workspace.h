@@ -99,6 +99,15 @@ class Workspace {
   // Assembles the output C file; with errors it holds a single newline.
   void assemble(const std::string& output_name);
 
+  // --report-checks: what the assembly counted per function, from the
+  // "#check" marker lines that reached the output (line codes).
+  struct FunctionChecks {
+    std::string name;
+    int line = 0;
+    std::vector<int> subscripts, growths, exceptions;
+  };
+  const std::vector<FunctionChecks>& check_report() const { return checks_; }
+
   // The texts; slot texts are read through the merge table.
   std::string globals;
   std::string wd_locals;
@@ -119,7 +128,12 @@ class Workspace {
   void write_file(std::string_view prefix, std::string_view text);
   void write_marker(int slot);
   void copy_work_file(std::FILE* out, const std::string& output_name);
+  // The copy for --line-directives and --report-checks: also numbers the
+  // output lines, maps the lines outside statements back to the C file and
+  // counts and drops "#check" lines.
+  void copy_work_file_marked(std::FILE* out, const std::string& output_name);
   void move_to_own(int slot);
+  void count_check(std::string_view marker);
 
   const Options& options_;
   Diagnostics& diag_;
@@ -141,6 +155,8 @@ class Workspace {
   std::vector<Block> blocks_;
   int emitted_ = 0;
   int max_dimensions_ = 0;
+  int output_lines_ = 0;  // newlines written to the output before the work file
+  std::vector<FunctionChecks> checks_;
 };
 
 // The conditional-region filter of the assembly: decides line by line which

@@ -17,6 +17,7 @@ struct FunctionContext {
     bool block;
     int level;  // stack size when it began
     bool labelled = false;
+    int line = 0;  // line code of the statement's first token
   };
   std::vector<Frame> frames;
 

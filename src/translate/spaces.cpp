@@ -261,10 +261,12 @@ std::string Translator::memory_failure(int position, const char* indent) {
 }
 
 std::string Translator::resize_call(int sym, const std::string& record, const std::vector<std::string>& subs,
-                                    const std::string& added, int position) {
+                                    const std::string& added, int line) {
   const Symbol& s = symbols_[sym];
   int number = resize_.function_for(sym);
-  std::string t = strf("\n   if(!%s(&(%s), ", resize_.name(number).c_str(), record.c_str());
+  int position = support_.position(line);
+  std::string t = check_mark('g', line);
+  appendf(t, "\n   if(!%s(&(%s), ", resize_.name(number).c_str(), record.c_str());
   int n = s.dim_count();
   for (int d = 1; d <= n; ++d) {
     const Dimension& dim = s.dims[static_cast<size_t>(d - 1)];
@@ -285,8 +287,9 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
   const bool checks = options_.bounds_checks;
   const bool one = n == 1 && k == 1;
   const int position = support_.position(line);
-  const std::string report = strf("\n   %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(),
-                                  c_string_text(name).c_str(), position, 2 * k);
+  const std::string mark = check_mark('s', line);
+  const std::string report = mark + strf("\n   %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(),
+                                         c_string_text(name).c_str(), position, 2 * k);
   auto sub = [&](int i) { return subs[static_cast<size_t>(i)]; };
   // The added length of a cast object goes with the last subscript.
   auto add = [&](int i) { return i == k - 1 ? added : std::string(); };
@@ -311,7 +314,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
     for (int i = 0; i < k; ++i)
       appendf(t, "(%s)(%s)%s >= (%s.limit%d)%s", "unsigned", sub(i).c_str(), add(i).c_str(), record.c_str(), i + 1,
                 i + 1 < k ? " || " : ")");
-    c += t + resize_call(sym, record, subs, added, position);
+    c += t + resize_call(sym, record, subs, added, line);
     c.marker('b');
   }
   if (checks) {
@@ -328,6 +331,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
       c.marker('i');
       appendf(c, "\nif((%s)(%s) < 0 || (%s)(%s)%s >= (%s.occurs))", "signed", sub(0).c_str(), "unsigned",
                 sub(0).c_str(), added.c_str(), record.c_str());
+      c += mark;
       appendf(c, "\n   %s(\"%s\", %d, %d, (%s)(%s)%s, (%s)(%s.occurs));", support_.bounds_exceeded().c_str(),
                 c_string_text(name).c_str(), position, 2, "unsigned", sub(0).c_str(), added.c_str(), "unsigned",
                 record.c_str());

@@ -70,11 +70,11 @@ void Translator::close_function_body(const Token& rbrace) {
   fn_.reset();
 }
 
-void Translator::begin_statement(const Token&) {
+void Translator::begin_statement(const Token& first) {
   fn().temp_next.clear();
   fn().rt_next.clear();
   fn().md_next.clear();
-  fn().frames.push_back({false, stack_size()});
+  fn().frames.push_back({false, stack_size(), false, first.line});
 }
 
 void Translator::end_statement(const Token& last) {
@@ -83,6 +83,7 @@ void Translator::end_statement(const Token& last) {
   fn().frames.pop_back();
   if (stack_size() < f.level) return;
   join_above(f.level, last.line);
+  if (options_.line_directives) mark_lines(code(top_index()), f.line);
   if (!fn().frames.empty() && !fn().frames.back().block) return;
   // A block item: flushed into the enclosing fragment or the work file.
   std::string text = pop_text();
@@ -90,6 +91,34 @@ void Translator::end_statement(const Token& last) {
     ws_.put_text('n', text);
   else
     code(top_index()) += text;
+}
+
+void Translator::mark_lines(Code& c, int line_code) {
+  const std::string& t = c.text();
+  const std::string directive = strf("#line %d \"%s\"\n", line_code % 1000000,
+                                     c_string_text(diag_.files().name(line_code / 1000000)).c_str());
+  std::vector<Code::Edit> edits;
+  bool directed = false;  // the line before is a "#line" directive
+  for (size_t pos = 0; pos <= t.size();) {
+    size_t nl = t.find('\n', pos);
+    if (nl == std::string::npos) nl = t.size();
+    std::string_view line(t.data() + pos, nl - pos);
+    if (line.starts_with('#')) {
+      // Marker lines never reach the C file; a directive covers the next line.
+      if (line.starts_with("#line ")) directed = true;
+    } else if (line.find_first_not_of(' ') == std::string_view::npos) {
+      directed = false;  // an empty line would shift the numbering
+    } else {
+      if (!directed) edits.push_back({pos, 0, pos == 0 ? "\n" + directive : directive});
+      directed = false;
+    }
+    pos = nl + 1;
+  }
+  if (!edits.empty()) c.apply(edits);
+}
+
+std::string Translator::check_mark(char kind, int line_code) const {
+  return options_.report_checks ? strf("\n#check %c %d", kind, line_code) : std::string();
 }
 
 void Translator::expression_statement(const Token& semicolon) {

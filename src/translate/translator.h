@@ -188,7 +188,7 @@ class Translator {
   Code component_checks(int sym, const std::string& record, const std::vector<std::string>& subs,
                         const std::string& name, int line, const std::string& added);
   std::string resize_call(int sym, const std::string& record, const std::vector<std::string>& subs,
-                          const std::string& added, int position);
+                          const std::string& added, int line);
   // A failed memory request: reported unless /M, then exception 32000.
   std::string memory_failure(int position, const char* indent);
   void become_unsigned(Operand& e);
@@ -233,6 +233,12 @@ class Translator {
 
   // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
+  // --line-directives: a "#line" directive before every C line of a
+  // finished statement that has none yet (inner statements mark theirs first).
+  void mark_lines(Code& code, int line_code);
+  // --report-checks: the marker line of one inserted check, which the output
+  // assembly counts and drops ('s' subscript, 'g' growth, 'e' exception test).
+  std::string check_mark(char kind, int line_code) const;
   bool exception_number(const Token& number, int& value);
 
   const Options& options_;

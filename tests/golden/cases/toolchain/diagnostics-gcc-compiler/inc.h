@@ -1,0 +1,3 @@
+/* shared declarations */
+int counter;
+int broken = undefined_name;

@@ -1,0 +1,2 @@
+#ifdef READY
+int ready;
