@@ -27,6 +27,10 @@ struct Options {
   // Faster forms of the generated C, beyond the described text.
   bool noreturn_reports = false;      // --noreturn: the bounds report never returns
   bool wide_subscripts = false;       // --wide-subscripts: element offsets in size_t
+  // Build-tool options.
+  bool depfile = false;               // --depfile: a make rule in name.d beside each name.c
+  std::string depfile_path;           // --depfile=PATH: the rules of all sources in PATH
+  bool run = false;                   // --run: build the translated program and run it
 };
 
 }  // namespace ycc

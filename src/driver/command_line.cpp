@@ -171,6 +171,18 @@ bool extra_option(const std::string& word, Options& options) {
     options.wide_subscripts = true;
     return true;
   }
+  if (word == "--depfile") {
+    options.depfile = true;
+    return true;
+  }
+  if (word.rfind("--depfile=", 0) == 0 && word.size() > 10) {
+    options.depfile_path = word.substr(10);
+    return true;
+  }
+  if (word == "--run") {
+    options.run = true;
+    return true;
+  }
   return false;
 }
 
