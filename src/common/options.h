@@ -31,6 +31,10 @@ struct Options {
   bool gcc_diagnostics = false;       // --diagnostics=gcc: one "file:line: error: text" line each
   bool line_directives = false;       // --line-directives: #line before each statement's C lines
   bool report_checks = false;         // --report-checks: inserted checks per function on stdout
+  // Build-tool options.
+  bool depfile = false;               // --depfile: a make rule in name.d beside each name.c
+  std::string depfile_path;           // --depfile=PATH: the rules of all sources in PATH
+  bool run = false;                   // --run: build the translated program and run it
 };
 
 }  // namespace ycc

@@ -183,6 +183,18 @@ bool extra_option(const std::string& word, Options& options) {
     options.report_checks = true;
     return true;
   }
+  if (word == "--depfile") {
+    options.depfile = true;
+    return true;
+  }
+  if (word.rfind("--depfile=", 0) == 0 && word.size() > 10) {
+    options.depfile_path = word.substr(10);
+    return true;
+  }
+  if (word == "--run") {
+    options.run = true;
+    return true;
+  }
   return false;
 }
 

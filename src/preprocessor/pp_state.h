@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "preprocessor/include_search.h"
@@ -109,6 +110,7 @@ class Preprocessor {
   std::vector<std::unique_ptr<FileEntry>> files_;
   int extern_depth_ = 0;
   int cur_line_ = 1;
+  std::unordered_set<std::string> includes_seen_;
 };
 
 // The first token of a text (a name, number, quoted item or one character).

@@ -132,6 +132,10 @@ void Preprocessor::push_file(std::string name, std::string text, bool is_extern)
   writer_.pending_newlines = 0;
   writer_.raw(strf("\n#line 1 \"%s\"\n", entry->name.c_str()));
   if (is_extern && ++extern_depth_ == 1) writer_.raw("#pragma extern_on\n");
+  if (include) {
+    std::string opened = host_path(entry->name);
+    if (includes_seen_.insert(opened).second) job_.includes_read.push_back(std::move(opened));
+  }
   // /T: an include newer than the output makes the file out of date.
   if (include && job_.compile_flag == 'n') {
     std::int64_t t = file_mtime(host_path(entry->name));

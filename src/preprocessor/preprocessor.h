@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "common/options.h"
 #include "diag/diagnostics.h"
@@ -19,6 +20,9 @@ struct PpJob {
   bool intermediate_written = false;
   // With no intermediate name the text stays here instead of in a file.
   std::string intermediate_text;
+  // Every include file opened, once each, in the order first read (paths as
+  // opened): the prerequisites of a dependency rule.
+  std::vector<std::string> includes_read;
 };
 
 // Runs the preprocessor over one file. Messages go through `diag`; an early

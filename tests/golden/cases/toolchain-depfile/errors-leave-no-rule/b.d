@@ -1,0 +1,1 @@
+b.c: b.yc stale.h

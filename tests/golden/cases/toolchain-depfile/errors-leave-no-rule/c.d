@@ -1,0 +1,1 @@
+c.c: c.yc stale.h

@@ -1,0 +1,1 @@
+a.c: a.yc sizes.h sub/pair.h sub/inner.h inc/my\ lib.h odd$$\#name.h

@@ -1,0 +1,1 @@
+#define LIB 4

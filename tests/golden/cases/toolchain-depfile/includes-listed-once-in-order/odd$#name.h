@@ -1,0 +1,1 @@
+#define ODD 5

@@ -1,0 +1,1 @@
+#define SIZE 1

@@ -1,0 +1,1 @@
+#define INNER 3

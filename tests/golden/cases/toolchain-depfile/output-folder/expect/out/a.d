@@ -1,0 +1,1 @@
+out/a.c: a.yc a.h

@@ -1,0 +1,1 @@
+out/b.c: sub/b.yc sub/b.h

@@ -1,0 +1,2 @@
+/* Read by words.yc alone. */
+#define SEPARATOR ' '
