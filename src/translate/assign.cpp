@@ -64,6 +64,10 @@ void Translator::assignment(AssignMode mode, const Token& op) {
   const char* verb = move ? "moved" : "assigned";
   const char* on = o.c_str();
   if (!l.lvalue) fail(strf("'%s' : the left operand is not an l-value", on));
+  if (r.aggregate_assigned)
+    fail(strf("'%s' : the right operand is an assignment or move of structures or spaces, which has no value: write "
+              "each one as a statement of its own",
+              on));
   if (l.casted || r.casted) {
     if (l.casted && r.casted)
       fail("'=' : only one operand can be a casted character space, not both");
@@ -125,6 +129,7 @@ void Translator::finish_assignment(int i, bool reported, bool has_value) {
   if (!has_value) {
     e.value.clear();
     e.empty = true;
+    e.aggregate_assigned = true;
     e.type_bits = 0;
     e.type_sym = 0;
     e.kind = 0;
@@ -423,6 +428,7 @@ void Translator::free_reference(const Token& keyword) {
   e.ref.reset();
   e.value.clear();
   e.empty = true;
+  e.aggregate_assigned = true;
   e.emit = false;
   e.dims = 0;
   e.kind = 0;

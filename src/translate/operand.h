@@ -138,6 +138,7 @@ struct Operand {
   bool lvalue = false;
   bool literal = false;   // a literal constant
   bool empty = false;     // no value at all
+  bool aggregate_assigned = false;  // an assignment of structures or spaces, which has no value
   int line = 0;
   bool partial = false;   // a partially elided space
   bool string_literal = false;
