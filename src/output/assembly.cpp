@@ -69,6 +69,15 @@ class LineReader {
 
 }  // namespace
 
+const std::string* Workspace::merge_text(std::string_view marker) const {
+  std::string number(marker.substr(7));
+  char* end = nullptr;
+  long n = std::strtol(number.c_str(), &end, 10);
+  if (end == number.c_str() || n < 0 || n >= merge_count()) return nullptr;
+  const MergeSlot& slot = merge(static_cast<int>(n));
+  return slot.length() >= 1 ? slot.data : nullptr;
+}
+
 void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
   RegionFilter filter(options_.bounds_checks);
   LineReader reader(work_file_);
@@ -79,11 +88,7 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
     if (body.ends_with('\n')) body.remove_suffix(1);
     // Merge markers come first, so one inside a dropped part is still replaced.
     if (body.starts_with("#merge ")) {
-      std::string number(body.substr(7));
-      char* end = nullptr;
-      long n = std::strtol(number.c_str(), &end, 10);
-      if (end != number.c_str() && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
-        kept += *merge(static_cast<int>(n)).data;
+      if (const std::string* slot = merge_text(body)) kept += *slot;
     } else if (filter.keep(body)) {
       kept += line;
     }
@@ -146,11 +151,7 @@ void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_
     std::string_view body(raw);
     if (body.ends_with('\n')) body.remove_suffix(1);
     if (body.starts_with("#merge ")) {
-      std::string number(body.substr(7));
-      char* end = nullptr;
-      long n = std::strtol(number.c_str(), &end, 10);
-      if (end != number.c_str() && n >= 0 && n < merge_count() && merge(static_cast<int>(n)).length() >= 1)
-        feed(*merge(static_cast<int>(n)).data);
+      if (const std::string* slot = merge_text(body)) feed(*slot);
     } else if (filter.keep(body)) {
       feed(raw);
     }
@@ -170,7 +171,8 @@ void Workspace::count_check(std::string_view marker) {
   size_t blank = rest.find(' ');
   int line = std::atoi(std::string(rest.substr(0, blank)).c_str());
   if (kind == 'f') {
-    checks_.push_back({blank == std::string_view::npos ? std::string() : std::string(rest.substr(blank + 1)), line, {}, {}, {}});
+    std::string name = blank == std::string_view::npos ? std::string() : std::string(rest.substr(blank + 1));
+    checks_.push_back({std::move(name), line, {}, {}, {}});
     return;
   }
   if (checks_.empty()) checks_.push_back({});

@@ -133,6 +133,8 @@ class Workspace {
   // counts and drops "#check" lines.
   void copy_work_file_marked(std::FILE* out, const std::string& output_name);
   void move_to_own(int slot);
+  // The text of the slot a "#merge N" line names; null when it has none.
+  const std::string* merge_text(std::string_view marker) const;
   void count_check(std::string_view marker);
 
   const Options& options_;
