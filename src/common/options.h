@@ -35,6 +35,7 @@ struct Options {
   bool depfile = false;               // --depfile: a make rule in name.d beside each name.c
   std::string depfile_path;           // --depfile=PATH: the rules of all sources in PATH
   bool run = false;                   // --run: build the translated program and run it
+  bool quiet = false;                 // --quiet: no banner, no preprocess and compile lines
 };
 
 }  // namespace ycc

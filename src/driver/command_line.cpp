@@ -191,6 +191,10 @@ bool extra_option(const std::string& word, Options& options) {
     options.depfile_path = word.substr(10);
     return true;
   }
+  if (word == "--quiet") {
+    options.quiet = true;
+    return true;
+  }
   if (word == "--run") {
     options.run = true;
     return true;

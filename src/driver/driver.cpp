@@ -1,5 +1,6 @@
 #include "driver/driver.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -27,7 +28,8 @@ const char memory_exhausted[] = "\n\n  ** memory is exhausted -- unable to conti
 
 class Driver {
  public:
-  Driver(std::ostream& out, std::ostream& err) : out_(&out), err_(err), diag_(err, options_) {}
+  Driver(std::ostream& out, std::ostream& err)
+      : out_(&out), progress_(&out), err_(err), diag_(err, options_) {}
 
   int run(const std::vector<std::string>& args);
 
@@ -45,6 +47,9 @@ class Driver {
   // The progress lines' stream: the standard output, or under --run the
   // error stream, so that the standard output is the program's alone.
   std::ostream* out_;
+  // The banner and the preprocess and compile lines: out_, or nowhere under --quiet.
+  std::ostream* progress_;
+  std::ostream nowhere_{nullptr};
   std::ostream& err_;
   Options options_;
   Diagnostics diag_;
@@ -58,7 +63,8 @@ int Driver::run(const std::vector<std::string>& args) {
   std::vector<std::string> words(args.begin() + (args.empty() ? 0 : 1), args.end());
   std::vector<std::string> program_words;
   if (split_run_words(words, program_words)) out_ = &err_;
-  *out_ << banner;
+  progress_ = std::find(words.begin(), words.end(), "--quiet") != words.end() ? &nowhere_ : out_;
+  *progress_ << banner;
   if (args.size() <= 1) {
     *out_ << usage_text;
     return 1;
@@ -72,10 +78,10 @@ int Driver::run(const std::vector<std::string>& args) {
   std::vector<std::string> c_files;
   for (const std::string& source : sources) {
     int total = diag_.run_errors + diag_.run_warnings;
-    if (total != last_total) *out_ << '\n';
+    if (total != last_total) *progress_ << '\n';
     last_total = total;
-    *out_ << " preprocess '" << source << "'\n";
-    out_->flush();
+    *progress_ << " preprocess '" << source << "'\n";
+    progress_->flush();
     SourceFile file = name_source(source, options_);
     process(file);
     c_files.push_back(file.output_name);
@@ -148,8 +154,8 @@ void Driver::preprocess_and_compile(const SourceFile& file, PpJob& job) {
     }
   }
   if (diag_.pp_errors == 0 && job.compile_flag == 'y') {
-    *out_ << " compile    '" << file.source_name << "'\n";
-    out_->flush();
+    *progress_ << " compile    '" << file.source_name << "'\n";
+    progress_->flush();
     int errors_before = diag_.run_errors;
     session_.compile_one_file(options_, diag_, file.intermediate_name, file.output_name,
                               file.source_name, options_.prefix, &job.intermediate_text);

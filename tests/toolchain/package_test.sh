@@ -47,6 +47,8 @@ cmake -S . -B "$work/b" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" >"$work/configure
 ninja -C "$work/b" >"$work/build.log" 2>&1 || { cat "$work/build.log"; fail "first build"; }
 got=$("$work/b/tally" "a  bc d" "" x)
 expect "the program built with the package" "$tally_output" "$got"
+# Translations run --quiet: a build log holds no banner.
+grep -q "YARL C (tm) Compiler" "$work/build.log" && fail "the build log shows ycc's banner"
 
 # rebuild NAME TRANSLATED COMPILED: runs ninja and compares the sources it
 # translated and the C files it compiled (names, in ninja's order, sorted).
