@@ -777,8 +777,7 @@ void Declarations::finish_function(const Token& name, bool is_definition) {
 void Declarations::open_function_body(const Token& lbrace, const FunctionLabels&) {
   if (!function_ || symbols_[function_].error_flags != 0) return;
   // --report-checks: the checks counted after this marker are the function's.
-  if (options_.report_checks)
-    ws_.put_text('n', strf("\n#check f %d %s", lbrace.line, symbols_[function_].name.c_str()));
+  if (options_.report_checks) ws_.put_text('n', ws_.check_marker('f', lbrace.line, symbols_[function_].name));
   ws_.open_function_body();
 }
 

@@ -155,48 +155,24 @@ void apply_argument(char letter, const std::string& arg, Options& options, Diagn
 
 // Options beyond the described ones.
 bool extra_option(const std::string& word, Options& options) {
-  if (word == "--dump-symbols") {
-    options.dump_symbols = true;
-    return true;
-  }
-  if (word == "--dump-tokens") {
-    options.dump_tokens = true;
-    return true;
-  }
-  if (word == "--noreturn") {
-    options.noreturn_reports = true;
-    return true;
-  }
-  if (word == "--wide-subscripts") {
-    options.wide_subscripts = true;
-    return true;
-  }
-  if (word == "--diagnostics=gcc") {
-    options.gcc_diagnostics = true;
-    return true;
-  }
-  if (word == "--line-directives") {
-    options.line_directives = true;
-    return true;
-  }
-  if (word == "--report-checks") {
-    options.report_checks = true;
-    return true;
-  }
-  if (word == "--depfile") {
-    options.depfile = true;
-    return true;
+  static constexpr struct {
+    const char* word;
+    bool Options::*flag;
+  } flags[] = {
+      {"--dump-symbols", &Options::dump_symbols},     {"--dump-tokens", &Options::dump_tokens},
+      {"--noreturn", &Options::noreturn_reports},     {"--wide-subscripts", &Options::wide_subscripts},
+      {"--diagnostics=gcc", &Options::gcc_diagnostics}, {"--line-directives", &Options::line_directives},
+      {"--report-checks", &Options::report_checks},   {"--depfile", &Options::depfile},
+      {"--quiet", &Options::quiet},                   {"--run", &Options::run},
+  };
+  for (const auto& f : flags) {
+    if (word == f.word) {
+      options.*f.flag = true;
+      return true;
+    }
   }
   if (word.rfind("--depfile=", 0) == 0 && word.size() > 10) {
     options.depfile_path = word.substr(10);
-    return true;
-  }
-  if (word == "--quiet") {
-    options.quiet = true;
-    return true;
-  }
-  if (word == "--run") {
-    options.run = true;
     return true;
   }
   return false;

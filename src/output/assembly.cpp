@@ -164,6 +164,13 @@ void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_
   write_all(out, kept, output_name);
 }
 
+std::string Workspace::check_marker(char kind, int line_code, std::string_view function) const {
+  if (!options_.report_checks) return std::string();
+  std::string marker = strf("\n#check %c %d", kind, line_code);
+  if (kind == 'f') (marker += ' ').append(function);
+  return marker;
+}
+
 void Workspace::count_check(std::string_view marker) {
   // "f LINE NAME" opens a function; "s|g|e LINE" is one check in it.
   char kind = marker.empty() ? ' ' : marker[0];

@@ -107,6 +107,10 @@ class Workspace {
     std::vector<int> subscripts, growths, exceptions;
   };
   const std::vector<FunctionChecks>& check_report() const { return checks_; }
+  // The marker line of one check ('s' subscript, 'g' growth, 'e' exception
+  // test) or, with kind 'f' and a name, of a function's start; empty
+  // without --report-checks.
+  std::string check_marker(char kind, int line_code, std::string_view function = {}) const;
 
   // The texts; slot texts are read through the merge table.
   std::string globals;

@@ -280,7 +280,7 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
       for (int k = 1; k <= n; ++k)
         appendf(body, "%s.limit%d != %s.limit%d%s", L.c_str(), k, R.c_str(), k, k < n ? " || " : ")");
       std::string name = strf("\n for fixed-space '%s': assigning limit%s ", la.name.c_str(), n > 1 ? "s" : "");
-      body += check_mark('s', line);
+      body += ws_.check_marker('s', line);
       appendf(body, "\n      %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(), c_string_text(name).c_str(),
                    position, 2 * n);
       for (int k = 1; k <= n; ++k) body += strf("(%s)(%s.limit%d), ", "unsigned", L.c_str(), k);

@@ -187,8 +187,8 @@ void Translator::call(const CallInfo& info) {
       appendf(t, "\nfor(%s = 0; %s < %s.limit1 && *(((unsigned char *)%s.ptr) + %s) != 0; ++%s)\n   ;\n%s.occurs = %s;",
                 n.c_str(), n.c_str(), rec, rec, n.c_str(), n.c_str(), rec, n.c_str());
       if (!needed.empty() && options_.bounds_checks)
-        appendf(t, "\nif(%s)%s\n   %s(\"'%s()' out\", %d, 2, (%s)(%s), (%s)(%s));", needed.c_str(), check_mark('s', site.line).c_str(),
-                  support_.bounds_exceeded().c_str(), site.name.c_str(), support_.position(site.line), "unsigned",
+        appendf(t, "\nif(%s)%s\n   %s(\"'%s()' out\", %d, 2, (%s)(%s), (%s)(%s));", needed.c_str(),
+                  ws_.check_marker('s', site.line).c_str(), support_.bounds_exceeded().c_str(), site.name.c_str(), support_.position(site.line), "unsigned",
                   needed.c_str(), "unsigned", limit_temp.c_str());
     }
     t += exception_test(site, row);
@@ -212,7 +212,7 @@ void Translator::call(const CallInfo& info) {
 std::string Translator::exception_test(const CallSite& site, const LibraryFunction* row) {
   std::string exc = generated("exception");
   std::string t;
-  if (!row || row->raises == 'y') t = check_mark('e', site.line);
+  if (!row || row->raises == 'y') t = ws_.check_marker('e', site.line);
   if (!row) {
     // A YARL C function: its exception goes to a handler of this function or on up.
     appendf(t, "\nif(%s) {", exc.c_str());

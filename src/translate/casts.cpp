@@ -185,7 +185,7 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
     std::string end = strf("((char *)(%s.ptr)) + %s.occurs", record.c_str(), record.c_str());
     std::string report;
     if (options_.bounds_checks)
-      report = check_mark('s', line) +
+      report = ws_.check_marker('s', line) +
                strf("\n   %s(\"%s\", %d, 2, (%s)(%s - (char *)(%s.ptr)), (%s)(%s.occurs));",
                     support_.bounds_exceeded().c_str(),
                     c_string_text("\n extracting from the casted character space up to subscript").c_str(),

@@ -265,7 +265,7 @@ std::string Translator::resize_call(int sym, const std::string& record, const st
   const Symbol& s = symbols_[sym];
   int number = resize_.function_for(sym);
   int position = support_.position(line);
-  std::string t = check_mark('g', line);
+  std::string t = ws_.check_marker('g', line);
   appendf(t, "\n   if(!%s(&(%s), ", resize_.name(number).c_str(), record.c_str());
   int n = s.dim_count();
   for (int d = 1; d <= n; ++d) {
@@ -287,7 +287,7 @@ Code Translator::component_checks(int sym, const std::string& record, const std:
   const bool checks = options_.bounds_checks;
   const bool one = n == 1 && k == 1;
   const int position = support_.position(line);
-  const std::string mark = check_mark('s', line);
+  const std::string mark = ws_.check_marker('s', line);
   const std::string report = mark + strf("\n   %s(\"%s\", %d, %d, ", support_.bounds_exceeded().c_str(),
                                          c_string_text(name).c_str(), position, 2 * k);
   auto sub = [&](int i) { return subs[static_cast<size_t>(i)]; };

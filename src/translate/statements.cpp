@@ -117,10 +117,6 @@ void Translator::mark_lines(Code& c, int line_code) {
   if (!edits.empty()) c.apply(edits);
 }
 
-std::string Translator::check_mark(char kind, int line_code) const {
-  return options_.report_checks ? strf("\n#check %c %d", kind, line_code) : std::string();
-}
-
 void Translator::expression_statement(const Token& semicolon) {
   ensure_operands(1, semicolon.line);
   finish_expression(top_index(), true);

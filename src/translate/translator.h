@@ -236,9 +236,6 @@ class Translator {
   // --line-directives: a "#line" directive before every C line of a
   // finished statement that has none yet (inner statements mark theirs first).
   void mark_lines(Code& code, int line_code);
-  // --report-checks: the marker line of one inserted check, which the output
-  // assembly counts and drops ('s' subscript, 'g' growth, 'e' exception test).
-  std::string check_mark(char kind, int line_code) const;
   bool exception_number(const Token& number, int& value);
 
   const Options& options_;
