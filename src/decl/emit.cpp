@@ -351,22 +351,34 @@ void Emitter::local_declaration(int sub, bool nested) {
   if (!init.empty()) ws_.put_text('n', init);
 }
 
+bool Emitter::takes_direct_form(int f, const std::vector<int>& params) const {
+  const Symbol& fs = symbols_[f];
+  if (!ws_.options().direct_calls || fs.ellipsis == 'y' || find_library_function(fs.name) >= 0) return false;
+  return std::none_of(params.begin(), params.end(), [&](int p) { return symbols_[p].anonymous(); });
+}
+
+std::string Emitter::direct_name(int sub) const {
+  std::string name = function_name(sub);
+  return direct_.count(name) ? names_.generated("direct_" + name) : std::string();
+}
+
 void Emitter::function_heading(int f, bool definition) {
   const Symbol& fs = symbols_[f];
-  std::string h;
-  if (fs.storage & STORAGE_STATIC) h += "static ";
-  h += "void " + function_name(f) + "(void *" + names_.generated("return_ptr") + "[]";
+  std::string storage = fs.storage & STORAGE_STATIC ? "static " : "";
+  std::string h = storage + "void " + function_name(f) + "(void *" + names_.generated("return_ptr") + "[]";
   std::vector<int> params, returns;
   for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
     if (symbols_[p].p_or_r == 'p') params.push_back(p);
     if (symbols_[p].p_or_r == 'r') returns.push_back(p);
   }
   bool element_size = fs.name == "qsort" || fs.name == "bsearch";
+  std::string list;
   for (size_t i = 0; i < params.size(); ++i) {
-    h += ", " + parameter(params[i], true);
-    if (element_size && i + 3 == params.size()) h += ", unsigned";
+    list += ", " + parameter(params[i], true);
+    if (element_size && i + 3 == params.size()) list += ", unsigned";
   }
-  if (fs.ellipsis == 'y') h += ", ...";
+  if (fs.ellipsis == 'y') list += ", ...";
+  h += list;
   if (!definition) {
     ws_.start_output();
     ws_.put_text('y', h + ");");
@@ -374,19 +386,38 @@ void Emitter::function_heading(int f, bool definition) {
     return;
   }
   ws_.start_output();
-  ws_.put_text('n', "\n\n" + h + ")\n{");
+  direct_function_ = takes_direct_form(f, params);
+  if (direct_function_) {
+    // The direct form: one pointer argument per return variable, the
+    // exception code as the value; calls made from here on may use it.
+    std::string d = "static int " + names_.generated("direct_" + function_name(f)) + "(";
+    for (size_t i = 0; i < returns.size(); ++i)
+      d += strf("%svoid *%s", i ? ", " : "", return_slot(static_cast<int>(i + 1)).c_str());
+    d += returns.empty() ? (list.empty() ? std::string("void") : list.substr(2)) : list;
+    ws_.put_text('n', "\n\n" + d + ")\n{");
+    direct_.insert(function_name(f));
+    wrapper_ = h + ")";
+    wrapper_call_ = names_.generated("direct_" + function_name(f)) + "(";
+    std::string ret = names_.generated("return_ptr");
+    for (size_t i = 0; i < returns.size(); ++i)
+      wrapper_call_ += strf("%s%s[%d]", i ? ", " : "", ret.c_str(), static_cast<int>(i + 1));
+    for (size_t i = 0; i < params.size(); ++i)
+      wrapper_call_ += (i || !returns.empty() ? ", " : "") + c_name(symbols_[params[i]].name);
+    wrapper_call_ += ")";
+  } else {
+    ws_.put_text('n', "\n\n" + h + ")\n{");
+  }
   ws_.note_emitted();
   ws_.start_function();
   walk_counters_ = 0;
-  std::string ret = names_.generated("return_ptr");
   for (size_t i = 0; i < returns.size(); ++i) {
     const Symbol& r = symbols_[returns[i]];
     int t = symbols_.resolve_type(r.type_sym);
     bool is_struct = t && symbols_[t].name_is == 's';
     if (r.dim_count() > 0 || is_struct) {
       std::string type = r.dim_count() > 0 ? names_.meta_type(r.dim_count()) : tag_name(t);
-      appendf(ws_.wd_locals, "\nstruct %s *%s = (struct %s *)%s[%d];", type.c_str(), c_name(r.name).c_str(),
-                            type.c_str(), ret.c_str(), static_cast<int>(i + 1));
+      appendf(ws_.wd_locals, "\nstruct %s *%s = (struct %s *)%s;", type.c_str(), c_name(r.name).c_str(),
+              type.c_str(), return_slot(static_cast<int>(i + 1)).c_str());
       if (r.dim_count() == 1) ws_.wd_init_code += strf("\n(*%s).occurs = 0;", c_name(r.name).c_str());
       if (is_struct) walk_varspaces(returns[i], "(*" + c_name(r.name) + ")", "", false, ws_.wd_init_code);
       ws_.note_dimensions(r.dim_count());
@@ -397,8 +428,13 @@ void Emitter::function_heading(int f, bool definition) {
   appendf(ws_.wd_locals, "\nint %s = 0;", names_.generated("exception").c_str());
 }
 
+std::string Emitter::return_slot(int index) const {
+  // The direct form has one argument per slot; the described form, the array.
+  if (direct_function_) return names_.generated("return_ptr", index);
+  return strf("%s[%d]", names_.generated("return_ptr").c_str(), index);
+}
+
 void Emitter::function_closing(int f) {
-  std::string ret = names_.generated("return_ptr");
   ws_.put_text('n', strf("\n\n%s: ;\n", names_.generated("finish").c_str()));
   int index = 0;
   for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
@@ -409,10 +445,10 @@ void Emitter::function_closing(int f) {
     if (r.dim_count() > 0 || (t && symbols_[t].name_is == 's')) continue;
     if (t && symbols_[t].name_is == 'n')
       // A pointer to the caller's function pointer: "void (**) (...)".
-      ws_.put_text('n', strf("\n*((%s)(%s[%d])) = %s;", fun_pointer(t, "*").c_str(), ret.c_str(), index,
+      ws_.put_text('n', strf("\n*((%s)(%s)) = %s;", fun_pointer(t, "*").c_str(), return_slot(index).c_str(),
                              c_name(r.name).c_str()));
     else
-      ws_.put_text('n', strf("\n*((%s *)(%s[%d])) = %s;", element_type(p).c_str(), ret.c_str(), index,
+      ws_.put_text('n', strf("\n*((%s *)(%s)) = %s;", element_type(p).c_str(), return_slot(index).c_str(),
                              c_name(r.name).c_str()));
   }
   free_block_varspaces(f + 1);
@@ -422,8 +458,17 @@ void Emitter::function_closing(int f) {
     exit.swap(ws_.function_exit);
     ws_.put_text('n', exit);
   }
-  ws_.put_text('n', strf("\n*((int *)(%s[0])) = %s;", ret.c_str(), names_.generated("exception").c_str()));
-  ws_.put_text('n', "\n}\n");
+  std::string exception = names_.generated("exception");
+  if (!direct_function_) {
+    ws_.put_text('n', strf("\n*((int *)(%s)) = %s;", return_slot(0).c_str(), exception.c_str()));
+    ws_.put_text('n', "\n}\n");
+    return;
+  }
+  // The described form stays, for function pointers and other files.
+  ws_.put_text('n', strf("\nreturn %s;\n}\n", exception.c_str()));
+  ws_.put_text('n', strf("\n\n%s\n{\n*((int *)(%s[0])) = %s;\n}\n", wrapper_.c_str(),
+                         names_.generated("return_ptr").c_str(), wrapper_call_.c_str()));
+  direct_function_ = false;
 }
 
 std::string Emitter::loop_counter(int depth) {

@@ -5,6 +5,8 @@
 #pragma once
 
 #include <string>
+#include <unordered_set>
+#include <vector>
 
 #include "common/names.h"
 #include "decl/space_walk.h"
@@ -54,6 +56,11 @@ class Emitter {
   void function_heading(int f, bool definition);
   // The closing sequence of a function body.
   void function_closing(int f);
+  // Under --direct-calls a function defined in this file also gets a direct
+  // form, which takes the return variables' addresses as arguments and
+  // gives the exception code as its value: its name once its definition has
+  // begun, else empty. The described form stays, as a wrapper around it.
+  std::string direct_name(int sub) const;
   // Frees the varspaces of the block's variables from `first` on.
   void free_block_varspaces(int first);
 
@@ -76,6 +83,9 @@ class Emitter {
   void walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
                       std::string& out);
   std::string loop_counter(int depth);
+  bool takes_direct_form(int f, const std::vector<int>& params) const;
+  // Where return variable `index` (0: the exception code) is found.
+  std::string return_slot(int index) const;
   std::string companion_name(int sub) const { return names_.companion(symbols_[sub].name); }
   // Where the members of a tag end.
   int body_end(int sub) const;
@@ -89,6 +99,10 @@ class Emitter {
   bool into_locals_ = false;
   bool hoisting_ = false;  // local tags take their generated names
   int locals_indent_ = 0;
+  std::unordered_set<std::string> direct_;  // C names of functions with a direct form
+  bool direct_function_ = false;            // the function being defined has one
+  std::string wrapper_;                     // its described heading
+  std::string wrapper_call_;                // the wrapper's call of the direct form
 };
 
 }  // namespace ycc

@@ -16,6 +16,14 @@ namespace ycc {
 
 namespace {
 constexpr int memory_exception = 32000;
+
+// A variable's name, or "(*name)" for a structure or space that came by
+// reference: its address does not depend on when it is taken.
+bool plain_object(std::string_view text) {
+  if (text.starts_with("(*") && text.ends_with(")")) text = text.substr(2, text.size() - 3);
+  return !text.empty() && !is_digit(text[0]) &&
+         std::all_of(text.begin(), text.end(), [](char c) { return is_ident_char(c); });
+}
 }  // namespace
 
 void Translator::call(const CallInfo& info) {
@@ -37,6 +45,7 @@ void Translator::call(const CallInfo& info) {
 
   // ---- The callee.
   std::string callee_text;
+  std::string direct;  // the callee's direct form, under --direct-calls
   if (info.through_pointer) {
     site.head = "call using '(*x)' notation";
     site.reference = "the function-pointer type";
@@ -58,6 +67,7 @@ void Translator::call(const CallInfo& info) {
     } else {
       ++symbols_[sub].ref_count;
       site.signature = function_signature(symbols_, sub);
+      direct = decl_.emitter().direct_name(sub);
       site.library = find_library_function(symbols_[sub].name);
       if (site.name == "main") site.library = -1;
       callee_text = "\n" + decl_.emitter().function_name(sub) + "(";
@@ -136,7 +146,13 @@ void Translator::call(const CallInfo& info) {
       }
     }
   }
-  if (!reported && site.signature && diag_.errors == 0) {
+  // A target more complex than a name keeps the described form, whose slots
+  // are set before the arguments are computed.
+  for (int i = 0; i < info.return_count && !direct.empty(); ++i)
+    if (!plain_object(argument_object(operand(returns_at + i)))) direct.clear();
+  if (!reported && site.signature && diag_.errors == 0 && !direct.empty()) {
+    text += direct_call(site, info, direct, value, returns_at, args_at, lists);
+  } else if (!reported && site.signature && diag_.errors == 0) {
     const LibraryFunction* row = site.library >= 0 ? &library_function(site.library) : nullptr;
     std::string actuals = generated("actuals");
     int slots = 1 + static_cast<int>(lists.returns.size());
@@ -207,6 +223,29 @@ void Translator::call(const CallInfo& info) {
     e.type_sym = value_sym;
     e.kind = value_kind;
   }
+}
+
+// A call of a function's direct form: the return variables' addresses as
+// arguments and the exception code as the value.
+std::string Translator::direct_call(const CallSite& site, const CallInfo& info, const std::string& direct,
+                                    const std::string& value, int returns_at, int args_at,
+                                    const FunctionLists& lists) {
+  std::vector<std::string> parts;
+  for (int i = 0; i < static_cast<int>(lists.returns.size()); ++i) {
+    std::string target = i >= info.return_count ? (i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]))
+                                                 : argument_object(operand(returns_at + i));
+    parts.push_back("&(" + target + ")");
+  }
+  std::string prep;
+  for (int i = 0; i < info.argument_count; ++i) {
+    int param = i < static_cast<int>(lists.params.size()) ? lists.params[static_cast<size_t>(i)] : 0;
+    parts.push_back(argument_text(site, operand(args_at + i), param, prep));
+  }
+  std::string t = prep;
+  appendf(t, "\n%s = %s(", generated("exception").c_str(), direct.c_str());
+  for (size_t i = 0; i < parts.size(); ++i) t += (i ? ", " : "") + parts[i];
+  t += ");";
+  return t + exception_test(site, nullptr);
 }
 
 std::string Translator::exception_test(const CallSite& site, const LibraryFunction* row) {
