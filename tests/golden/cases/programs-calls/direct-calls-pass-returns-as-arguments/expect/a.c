@@ -181,7 +181,7 @@ void fill(void *zzzz_return_ptr[], struct zz1D_meta *buf, struct point *p,
 void keep_all(void *zzzz_return_ptr[], struct point *p, int depth);
 void checked(void *zzzz_return_ptr[], int n);
 void twice(void *zzzz_return_ptr[], int n);
-void nothing(void *zzzz_return_ptr[]);
+static void nothing(void *zzzz_return_ptr[]);
 int calls;
 
 static int zzzz_direct_keep_all(void *zzzz_return_ptr1, struct point *p, 
@@ -417,7 +417,7 @@ return zzzz_exception;
 }
 
 
-void nothing(void *zzzz_return_ptr[])
+static void nothing(void *zzzz_return_ptr[])
 {
 *((int *)(zzzz_return_ptr[0])) = zzzz_direct_nothing();
 }
