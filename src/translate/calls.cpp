@@ -146,28 +146,27 @@ void Translator::call(const CallInfo& info) {
       }
     }
   }
+  // The return variables, or temporaries for a call used as a value.
+  std::vector<std::string> targets;
+  bool emitting = !reported && site.signature && diag_.errors == 0;
+  for (int i = 0; emitting && i < static_cast<int>(lists.returns.size()); ++i) {
+    if (i < info.return_count)
+      targets.push_back(argument_object(operand(returns_at + i)));
+    else
+      targets.push_back(i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]));
+  }
   // A target more complex than a name keeps the described form, whose slots
   // are set before the arguments are computed.
-  for (int i = 0; i < info.return_count && !direct.empty(); ++i)
-    if (!plain_object(argument_object(operand(returns_at + i)))) direct.clear();
-  if (!reported && site.signature && diag_.errors == 0 && !direct.empty()) {
-    text += direct_call(site, info, direct, value, returns_at, args_at, lists);
-  } else if (!reported && site.signature && diag_.errors == 0) {
+  if (emitting && !direct.empty() && std::all_of(targets.begin(), targets.end(), plain_object)) {
+    text += direct_call(site, info, direct, targets, args_at, lists);
+  } else if (emitting) {
     const LibraryFunction* row = site.library >= 0 ? &library_function(site.library) : nullptr;
     std::string actuals = generated("actuals");
     int slots = 1 + static_cast<int>(lists.returns.size());
     std::string t;
     appendf(t, "\n%s[%d] = &(%s);", actuals.c_str(), 0, generated("exception").c_str());
-    // The return variables, or temporaries for a call used as a value.
-    for (int i = 0; i < static_cast<int>(lists.returns.size()); ++i) {
-      std::string target;
-      if (i < info.return_count) {
-        target = argument_object(operand(returns_at + i));
-      } else {
-        target = i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]);
-      }
-      appendf(t, "\n%s[%d] = &(%s);", actuals.c_str(), i + 1, target.c_str());
-    }
+    for (size_t i = 0; i < targets.size(); ++i)
+      appendf(t, "\n%s[%d] = &(%s);", actuals.c_str(), static_cast<int>(i + 1), targets[i].c_str());
     // The checked target: a varspace grows, a fixed-space reports what did not fit.
     std::string needed, limit_temp, target_record;
     bool checked = row && row->checked_target > 0 && info.argument_count >= row->checked_target;
@@ -228,14 +227,10 @@ void Translator::call(const CallInfo& info) {
 // A call of a function's direct form: the return variables' addresses as
 // arguments and the exception code as the value.
 std::string Translator::direct_call(const CallSite& site, const CallInfo& info, const std::string& direct,
-                                    const std::string& value, int returns_at, int args_at,
+                                    const std::vector<std::string>& targets, int args_at,
                                     const FunctionLists& lists) {
   std::vector<std::string> parts;
-  for (int i = 0; i < static_cast<int>(lists.returns.size()); ++i) {
-    std::string target = i >= info.return_count ? (i == 0 ? value : return_temporary(lists.returns[static_cast<size_t>(i)]))
-                                                 : argument_object(operand(returns_at + i));
-    parts.push_back("&(" + target + ")");
-  }
+  for (const std::string& target : targets) parts.push_back("&(" + target + ")");
   std::string prep;
   for (int i = 0; i < info.argument_count; ++i) {
     int param = i < static_cast<int>(lists.params.size()) ? lists.params[static_cast<size_t>(i)] : 0;

@@ -215,7 +215,7 @@ class Translator {
   // ---- Calls (calls.cpp, call_checks.cpp, formats.cpp) ----
   std::string exception_test(const CallSite& site, const LibraryFunction* row);
   std::string direct_call(const CallSite& site, const CallInfo& info, const std::string& direct,
-                          const std::string& value, int returns_at, int args_at, const FunctionLists& lists);
+                          const std::vector<std::string>& targets, int args_at, const FunctionLists& lists);
   // Whether an argument for `param` is passed by reference (spaces, structures).
   bool by_reference(int param, const Operand& a) const;
   // The object a return slot points to; the C text of an argument.
