@@ -28,7 +28,7 @@ void SymbolTable::add_to_index(int sub) {
 }
 
 void SymbolTable::remove_from_index(int sub) {
-  auto drop = [sub](std::unordered_map<std::string, std::vector<int>>& index, const std::string& name) {
+  auto drop = [sub](NameIndex& index, const std::string& name) {
     auto list = index.find(name);
     if (list == index.end()) return;
     std::vector<int>& v = list->second;
@@ -44,7 +44,7 @@ int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner
   YCC_CHECK(name_class == 'g' || name_class == 'c' || name_class == 'i' || name_class == 'o',
             "yc_fun");
   if (!name.empty() && name[0] == '1') return 0;
-  auto list = by_name_.find(stored_name(name));
+  auto list = by_name_.find(key(name));
   if (list == by_name_.end()) return 0;
   int lowest = depth() > 0 && name_class != 'g' ? block_first(depth()) : 1;
   const std::vector<int>& v = list->second;
@@ -61,7 +61,7 @@ int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner
 }
 
 int SymbolTable::find_typedef(std::string_view name) const {
-  auto list = typedefs_.find(stored_name(name));
+  auto list = typedefs_.find(key(name));
   return list == typedefs_.end() || list->second.empty() ? 0 : list->second.back();
 }
 
@@ -77,7 +77,7 @@ int SymbolTable::type_bits_of(int sub) const {
 }
 
 int SymbolTable::find_member(int tag, std::string_view name) const {
-  auto list = by_name_.find(stored_name(name));
+  auto list = by_name_.find(key(name));
   if (list == by_name_.end()) return 0;
   for (int sub : list->second)
     if ((*this)[sub].name_class == 'c' && (*this)[sub].owner == tag) return sub;
@@ -85,7 +85,7 @@ int SymbolTable::find_member(int tag, std::string_view name) const {
 }
 
 int SymbolTable::find_other(char name_class, std::string_view name, int except) const {
-  auto list = by_name_.find(stored_name(name));
+  auto list = by_name_.find(key(name));
   if (list == by_name_.end()) return 0;
   for (auto it = list->second.rbegin(); it != list->second.rend(); ++it)
     if (*it != except && (*this)[*it].name_class == name_class) return *it;
@@ -93,7 +93,7 @@ int SymbolTable::find_other(char name_class, std::string_view name, int except) 
 }
 
 int SymbolTable::find_tag(char name_is, std::string_view name, int before) const {
-  auto list = by_name_.find(stored_name(name));
+  auto list = by_name_.find(key(name));
   if (list == by_name_.end()) return 0;
   for (auto it = list->second.rbegin(); it != list->second.rend(); ++it) {
     const Symbol& s = (*this)[*it];

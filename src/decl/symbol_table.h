@@ -150,8 +150,15 @@ class SymbolTable {
   std::vector<Symbol> symbols_;  // entry 0 unused
   // Every indexed entry by its name, and the typedef names alone, newest
   // last: a walk from the back meets inner scopes first.
-  std::unordered_map<std::string, std::vector<int>> by_name_;
-  std::unordered_map<std::string, std::vector<int>> typedefs_;
+  // Looked up by string_view: no name is copied to be found.
+  struct NameHash {
+    using is_transparent = void;
+    size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+  };
+  using NameIndex = std::unordered_map<std::string, std::vector<int>, NameHash, std::equal_to<>>;
+  static std::string_view key(std::string_view name) { return name.substr(0, std::min(name.size(), name_limit)); }
+  NameIndex by_name_;
+  NameIndex typedefs_;
   std::vector<Construction> constructions_;
   std::vector<Block> blocks_;
   int serial_ = 0;
