@@ -390,14 +390,15 @@ void Emitter::function_heading(int f, bool definition) {
   if (direct_function_) {
     // The direct form: one pointer argument per return variable, the
     // exception code as the value; calls made from here on may use it.
-    std::string d = "static int " + names_.generated("direct_" + function_name(f)) + "(";
+    std::string direct = names_.generated("direct_" + function_name(f));
+    std::string d = "static int " + direct + "(";
     for (size_t i = 0; i < returns.size(); ++i)
       d += strf("%svoid *%s", i ? ", " : "", return_slot(static_cast<int>(i + 1)).c_str());
     d += returns.empty() ? (list.empty() ? std::string("void") : list.substr(2)) : list;
     ws_.put_text('n', "\n\n" + d + ")\n{");
     direct_.insert(function_name(f));
     wrapper_ = h + ")";
-    wrapper_call_ = names_.generated("direct_" + function_name(f)) + "(";
+    wrapper_call_ = direct + "(";
     std::string ret = names_.generated("return_ptr");
     for (size_t i = 0; i < returns.size(); ++i)
       wrapper_call_ += strf("%s%s[%d]", i ? ", " : "", ret.c_str(), static_cast<int>(i + 1));
