@@ -6,6 +6,7 @@
 # the default translation does.
 # usage: faster_forms.sh YCC CASES_DIR RUNTIME_DIR VARIANTS_DIR
 set -uo pipefail
+source "$(dirname "$0")/run_case.sh"
 ycc=$(realpath "$1")
 cases=$(cd "$2" && pwd)
 runtime=$(cd "$3" && pwd)
@@ -26,29 +27,7 @@ for marker in "$cases"/*/*/run; do
   if ! gcc -std=c99 -w -I "$runtime" -o "$work/prog" "$work/case/$c_file" "$lib" -lm; then
     echo "FAIL $name: the faster forms do not build"; failed=$((failed + 1)); continue
   fi
-  input=/dev/null
-  [ -f "$dir/run.stdin" ] && input=$dir/run.stdin
-  args=()
-  [ -f "$dir/run.args" ] && read -r -a args < "$dir/run.args"
-  (cd "$work/case" && "$work/prog" "${args[@]}" < "$input" > "$work/stdout" 2> "$work/stderr")
-  status=$?
-  want=0
-  [ -f "$dir/run.status" ] && want=$(tr -d ' \n' < "$dir/run.status")
-  same=1
-  if [ "$status" != "$want" ]; then
-    echo "FAIL $name: exit status $status, run.status $want"
-    same=0
-  fi
-  for stream in stdout stderr; do
-    expected=/dev/null
-    [ -f "$dir/run.$stream" ] && expected=$dir/run.$stream
-    if ! cmp -s "$work/$stream" "$expected"; then
-      echo "FAIL $name: $stream differs from run.$stream"
-      diff "$expected" "$work/$stream" | head -20
-      same=0
-    fi
-  done
-  if [ $same = 1 ]; then checked=$((checked + 1)); else failed=$((failed + 1)); fi
+  if run_case "$name" "$dir" "$work" "$work/prog" "the program's"; then checked=$((checked + 1)); else failed=$((failed + 1)); fi
 done
 echo "$checked passed, $failed failed"
 [ "$failed" -eq 0 ] && [ "$checked" -gt 0 ]

@@ -6,6 +6,7 @@
 # run.status, so the expected files stay tied to an independent source.
 # usage: twins.sh CASES_DIR
 set -uo pipefail
+source "$(dirname "$0")/run_case.sh"
 cases=$(cd "$1" && pwd)
 failed=0 checked=0
 work=$(mktemp -d)
@@ -18,29 +19,7 @@ for twin in "$cases"/*/*/twin.c; do
   if ! cc -std=c99 -D_GNU_SOURCE -o "$work/twin" "$twin" -lm; then
     echo "FAIL $name: twin.c does not build"; failed=$((failed + 1)); continue
   fi
-  input=/dev/null
-  [ -f "$dir/run.stdin" ] && input=$dir/run.stdin
-  words=()
-  [ -f "$dir/run.args" ] && read -r -a words < "$dir/run.args"
-  (cd "$work/case" && "$work/twin" "${words[@]}" < "$input" > "$work/stdout" 2> "$work/stderr")
-  status=$?
-  same=1
-  want=0
-  [ -f "$dir/run.status" ] && want=$(tr -d ' \n' < "$dir/run.status")
-  if [ "$status" != "$want" ]; then
-    echo "FAIL $name: the C twin's exit status $status is not run.status $want"
-    same=0
-  fi
-  for stream in stdout stderr; do
-    expected=/dev/null
-    [ -f "$dir/run.$stream" ] && expected=$dir/run.$stream
-    if ! cmp -s "$work/$stream" "$expected"; then
-      echo "FAIL $name: the C twin's $stream differs from run.$stream"
-      diff "$expected" "$work/$stream" | head -20
-      same=0
-    fi
-  done
-  if [ $same = 1 ]; then checked=$((checked + 1)); else failed=$((failed + 1)); fi
+  if run_case "$name" "$dir" "$work" "$work/twin" "the C twin's"; then checked=$((checked + 1)); else failed=$((failed + 1)); fi
 done
 echo "$checked passed, $failed failed"
 [ "$failed" -eq 0 ] && [ "$checked" -gt 0 ]
