@@ -96,9 +96,9 @@ class SymbolTable {
   // The next free number (the count of used entries plus one).
   int count() const { return static_cast<int>(symbols_.size()); }
 
-  static std::string stored_name(std::string_view name) {
-    return std::string(name.substr(0, std::min(name.size(), name_limit)));
-  }
+  // A name as entries keep and the index finds it: its first name_limit characters.
+  static std::string_view key(std::string_view name) { return name.substr(0, std::min(name.size(), name_limit)); }
+  static std::string stored_name(std::string_view name) { return std::string(key(name)); }
   // Drops the newest entry, which must not be indexed.
   void drop_last() { symbols_.pop_back(); }
   // Gives an entry an anonymous name (never matched by lookups).
@@ -156,7 +156,6 @@ class SymbolTable {
     size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
   };
   using NameIndex = std::unordered_map<std::string, std::vector<int>, NameHash, std::equal_to<>>;
-  static std::string_view key(std::string_view name) { return name.substr(0, std::min(name.size(), name_limit)); }
   NameIndex by_name_;
   NameIndex typedefs_;
   std::vector<Construction> constructions_;
