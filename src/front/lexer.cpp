@@ -50,25 +50,34 @@ constexpr std::int64_t file_factor = 1000000;
 bool is_hex_digit(char c) {
   return is_digit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
-bool is_garbage(char c) { return c == '#' || c == '$' || c == '@' || c == '\\' || c == '`'; }
+constexpr bool is_garbage(char c) { return c == '#' || c == '$' || c == '@' || c == '\\' || c == '`'; }
 
-// Keywords and punctuators, both taken from the token table.
-// The spellings of tokens.def, sorted for lookups that hash nothing:
-// punctuators by their first character, longest first; keywords by their
-// first letter (every keyword begins with a lower-case letter).
+// Keywords and punctuators, both taken from the token table, sorted for
+// lookups that hash nothing and call nothing: keywords by first letter and
+// length (every keyword begins with a lower-case letter and is short),
+// punctuators by their first character, longest first.
 struct Spelling {
   std::string_view text;
   int number;
 };
+
+// Short texts compared in line: a library call costs more than the bytes.
+inline bool same_text(const char* a, const char* b, size_t n) {
+  for (size_t i = 0; i < n; ++i)
+    if (a[i] != b[i]) return false;
+  return true;
+}
+
 struct Spellings {
+  static constexpr size_t longest_keyword = 16;
   std::vector<Spelling> punctuators[128];
-  std::vector<Spelling> keywords[26];
+  std::vector<Spelling> keywords[26][longest_keyword + 1];
   Spellings() {
-#define TOKEN(number, name, spelling)                                             \
-  if (std::string_view(spelling).empty()) {                                      \
-  } else if (is_ident_start(spelling[0])) {                                      \
-    keywords[spelling[0] - 'a'].push_back({spelling, number});                   \
-  } else {                                                                       \
+#define TOKEN(number, name, spelling)                                                   \
+  if (std::string_view(spelling).empty()) {                                            \
+  } else if (is_ident_start(spelling[0])) {                                            \
+    keywords[spelling[0] - 'a'][std::string_view(spelling).size()].push_back({spelling, number}); \
+  } else {                                                                             \
     punctuators[static_cast<unsigned char>(spelling[0])].push_back({spelling, number}); \
   }
 #include "front/tokens.def"
@@ -78,10 +87,19 @@ struct Spellings {
                 [](const Spelling& a, const Spelling& b) { return a.text.size() > b.text.size(); });
   }
   int keyword(std::string_view word) const {
-    if (word[0] < 'a' || word[0] > 'z') return T_IDENTIFIER;
-    for (const Spelling& k : keywords[word[0] - 'a'])
-      if (k.text == word) return k.number;
+    if (word[0] < 'a' || word[0] > 'z' || word.size() > longest_keyword) return T_IDENTIFIER;
+    for (const Spelling& k : keywords[word[0] - 'a'][word.size()])
+      if (same_text(k.text.data(), word.data(), word.size())) return k.number;
     return T_IDENTIFIER;
+  }
+  // The longest punctuator at `at`, whose text runs on to `end`; null for none.
+  const Spelling* punctuator(const char* at, const char* end) const {
+    unsigned char c = static_cast<unsigned char>(*at);
+    if (c >= 128) return nullptr;
+    size_t room = static_cast<size_t>(end - at);
+    for (const Spelling& p : punctuators[c])
+      if (p.text.size() <= room && same_text(p.text.data(), at, p.text.size())) return &p;
+    return nullptr;
   }
 };
 
@@ -96,6 +114,26 @@ constexpr std::array<bool, 256> ident_bytes = [] {
   return t;
 }();
 inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c)]; }
+
+// What a byte can begin in normal mode; `other` covers slashes, points and
+// punctuators, which look further.
+enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage };
+constexpr std::array<ByteClass, 256> byte_classes = [] {
+  std::array<ByteClass, 256> t{};
+  for (int i = 0; i < 256; ++i) {
+    char c = static_cast<char>(i);
+    ByteClass k = ByteClass::other;
+    if (c == '\n') k = ByteClass::newline;
+    else if (c == ' ' || c == '\t') k = ByteClass::blank;
+    else if (is_ident_start(c)) k = ByteClass::ident;
+    else if (is_digit(c)) k = ByteClass::digit;
+    else if (c == '"' || c == '\'') k = ByteClass::quote;
+    else if (is_garbage(c)) k = ByteClass::garbage;
+    t[static_cast<size_t>(i)] = k;
+  }
+  return t;
+}();
+inline ByteClass byte_class(char c) { return byte_classes[static_cast<unsigned char>(c)]; }
 
 class Lexer {
  public:
@@ -140,7 +178,8 @@ class Lexer {
     if (line_ < INT_MAX) set_line(line_ + 1);
   }
   void emit(int tok, size_t begin, size_t end) { emit(tok, s_.substr(begin, end - begin)); }
-  void emit(int tok, std::string_view text);
+  inline void emit(int tok, std::string_view text);
+  void grow_tokens();
 
   void normal_step();
   void line_directive_step();
@@ -179,9 +218,16 @@ class Lexer {
 };
 
 void Lexer::emit(int tok, std::string_view text) {
+  // The room reserved up front almost always suffices; growth is the rare path.
+  if (tokens_.size() == tokens_.capacity()) [[unlikely]]
+    grow_tokens();
+  tokens_.push_back({text, tok, line_code()});
+}
+
+void Lexer::grow_tokens() {
   auto count = [](size_t n) { return static_cast<int>(std::min<size_t>(n, INT_MAX)); };
   try {
-    tokens_.push_back({text, tok, line_code()});
+    tokens_.reserve(tokens_.capacity() * 2 + 16);
   } catch (const std::bad_alloc&) {
     throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n", count(tokens_.size() + 1))};
   }
@@ -265,7 +311,7 @@ size_t Lexer::number_end(size_t i, int& tok) const {
 }
 
 void Lexer::newline_in_normal() {
-  if (starts(pos_, "\n#line") && (at(pos_ + 6) == ' ' || at(pos_ + 6) == '\t')) {
+  if (at(pos_ + 1) == '#' && starts(pos_, "\n#line") && (at(pos_ + 6) == ' ' || at(pos_ + 6) == '\t')) {
     ++pos_;
     line_start();
     return;
@@ -280,6 +326,7 @@ void Lexer::newline_in_normal() {
 // newline that mode consumed) or open the file, so they are also recognised
 // there; a newline consumed by line-directive mode counts no line.
 void Lexer::line_start() {
+  if (at(pos_) != '#') return;
   if (starts(pos_, "#line") && (at(pos_ + 5) == ' ' || at(pos_ + 5) == '\t')) {
     pos_ += 5;
     mode_ = Mode::line_directive;
@@ -327,14 +374,41 @@ void Lexer::line_directive_step() {
 void Lexer::normal_step() {
   char c = s_[pos_];
   size_t begin = pos_;
-  if (c == '\n') {
-    newline_in_normal();
-  } else if (c == ' ' || c == '\t') {
-    // Indentation comes in runs; the text ends in a NUL that stops every run.
-    const char* d = s_.data();
-    do ++pos_;
-    while (d[pos_] == ' ' || d[pos_] == '\t');
-  } else if (c == '/' && at(pos_ + 1) == '*') {
+  const char* d = s_.data();
+  switch (byte_class(c)) {
+    case ByteClass::newline:
+      newline_in_normal();
+      return;
+    case ByteClass::blank:
+      // Indentation comes in runs; the text ends in a NUL that stops every run.
+      do ++pos_;
+      while (byte_class(d[pos_]) == ByteClass::blank);
+      return;
+    case ByteClass::ident: {
+      while (ident_byte(d[pos_])) ++pos_;
+      std::string_view word = s_.substr(begin, pos_ - begin);
+      emit(spellings_.keyword(word), word);
+      return;
+    }
+    case ByteClass::digit: {
+      int tok;
+      pos_ = number_end(pos_, tok);
+      emit(tok, begin, pos_);
+      return;
+    }
+    case ByteClass::quote:
+      // An unclosed constant ends before its newline, which normal mode counts.
+      pos_ = quoted_end(pos_, c);
+      emit(c == '"' ? T_STRING : T_CHARACTER, begin, pos_);
+      return;
+    case ByteClass::garbage:
+      while (is_garbage(at(pos_))) ++pos_;
+      emit(T_GARBAGE, begin, pos_);
+      return;
+    case ByteClass::other:
+      break;
+  }
+  if (c == '/' && at(pos_ + 1) == '*') {
     // Comments do not nest; an unclosed one runs to the end of the file.
     size_t close = s_.find("*/", pos_ + 2);
     size_t end = close == std::string_view::npos ? s_.size() : close + 2;
@@ -344,31 +418,15 @@ void Lexer::normal_step() {
   } else if (c == '/' && at(pos_ + 1) == '/') {
     // The newline stays for normal mode, which counts it.
     pos_ = rest_of_line(pos_);
-  } else if (is_digit(c) || (c == '.' && is_digit(at(pos_ + 1)))) {
+  } else if (c == '.' && is_digit(at(pos_ + 1))) {
     int tok;
     pos_ = number_end(pos_, tok);
     emit(tok, begin, pos_);
-  } else if (is_ident_start(c)) {
-    const char* d = s_.data();
-    while (ident_byte(d[pos_])) ++pos_;
-    std::string_view word = s_.substr(begin, pos_ - begin);
-    emit(spellings_.keyword(word), word);
-  } else if (c == '"' || c == '\'') {
-    // An unclosed constant ends before its newline, which normal mode counts.
-    pos_ = quoted_end(pos_, c);
-    emit(c == '"' ? T_STRING : T_CHARACTER, begin, pos_);
-  } else if (is_garbage(c)) {
-    while (is_garbage(at(pos_))) ++pos_;
-    emit(T_GARBAGE, begin, pos_);
-  } else {
+  } else if (const Spelling* p = spellings_.punctuator(d + pos_, d + s_.size())) {
     // The longest punctuator that matches wins.
-    for (const Spelling& p : spellings_.punctuators[static_cast<unsigned char>(c) & 127]) {
-      if (static_cast<unsigned char>(c) < 128 && s_.substr(pos_, p.text.size()) == p.text) {
-        pos_ += p.text.size();
-        emit(p.number, begin, pos_);
-        return;
-      }
-    }
+    pos_ += p->text.size();
+    emit(p->number, begin, pos_);
+  } else {
     // Not counted as an error; the raw line code is shown.
     err_ << strf("%s near line %d (text was '%c')\n", "invalid token", line_code(), c);
     ++pos_;
