@@ -28,7 +28,8 @@ void write_all(std::FILE* out, std::string_view text, const std::string& name) {
     output_write_failed(name);
 }
 
-// Reads the work file in large pieces and hands over whole lines.
+// Reads the work file in large pieces and hands over whole lines, one at a
+// time or as a block of every complete line read so far.
 class LineReader {
  public:
   explicit LineReader(std::FILE* in) : in_(in) {}
@@ -47,18 +48,37 @@ class LineReader {
         at_ = buffer_.size();
         return true;
       }
-      buffer_.erase(0, at_);
-      at_ = 0;
-      size_t got = std::fread(piece_.get(), 1, chunk, in_);
-      buffer_.append(piece_.get(), got);
-      if (got < chunk) {
-        if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
-        eof_ = true;
+      fill();
+    }
+  }
+  // The lines not yet handed over, up to the last newline read (at the end,
+  // to the end of the file); false at the end.
+  bool next_block(std::string_view& block) {
+    for (;;) {
+      size_t nl = buffer_.rfind('\n');
+      size_t end = eof_ ? buffer_.size() : (nl == std::string::npos || nl < at_ ? at_ : nl + 1);
+      if (end > at_) {
+        block = std::string_view(buffer_).substr(at_, end - at_);
+        at_ = end;
+        return true;
       }
+      if (eof_) return false;
+      fill();
     }
   }
 
  private:
+  void fill() {
+    buffer_.erase(0, at_);
+    at_ = 0;
+    size_t got = std::fread(piece_.get(), 1, chunk, in_);
+    buffer_.append(piece_.get(), got);
+    if (got < chunk) {
+      if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
+      eof_ = true;
+    }
+  }
+
   static constexpr size_t chunk = 1 << 20;
   std::FILE* in_;
   std::unique_ptr<char[]> piece_{new char[chunk]};  // read into without being cleared first
@@ -66,6 +86,22 @@ class LineReader {
   size_t at_ = 0;
   bool eof_ = false;
 };
+
+// The first line at or after `pos` (a line start) that begins with '#', or
+// the end of the text.
+size_t next_hash_line(std::string_view text, size_t pos) {
+  for (;;) {
+    if (pos >= text.size() || text[pos] == '#') return pos;
+    size_t hash = text.find('#', pos + 1);
+    if (hash == std::string_view::npos) return text.size();
+    if (text[hash - 1] == '\n') return hash;
+    pos = hash + 1;
+    // Back to a line start: the rest of this line cannot matter.
+    size_t nl = text.find('\n', pos);
+    if (nl == std::string_view::npos) return text.size();
+    pos = nl + 1;
+  }
+}
 
 }  // namespace
 
@@ -82,15 +118,28 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
   RegionFilter filter(options_.bounds_checks);
   LineReader reader(work_file_);
   std::string kept;  // written out in large pieces
-  std::string_view line;
-  while (reader.next(line)) {
-    std::string_view body(line);
-    if (body.ends_with('\n')) body.remove_suffix(1);
-    // Merge markers come first, so one inside a dropped part is still replaced.
-    if (body.starts_with("#merge ")) {
-      if (const std::string* slot = merge_text(body)) kept += *slot;
-    } else if (filter.keep(body)) {
-      kept += line;
+  std::string_view block;
+  while (reader.next_block(block)) {
+    for (size_t pos = 0; pos < block.size();) {
+      if (filter.idle()) {
+        // Outside regions only lines that begin with '#' can be markers:
+        // the lines before the next one are kept as they stand.
+        size_t hash = next_hash_line(block, pos);
+        kept.append(block.substr(pos, hash - pos));
+        pos = hash;
+        if (pos == block.size()) break;
+      }
+      size_t nl = block.find('\n', pos);
+      size_t end = nl == std::string_view::npos ? block.size() : nl + 1;
+      std::string_view line = block.substr(pos, end - pos), body = line;
+      pos = end;
+      if (body.ends_with('\n')) body.remove_suffix(1);
+      // Merge markers come first, so one inside a dropped part is still replaced.
+      if (body.starts_with("#merge ")) {
+        if (const std::string* slot = merge_text(body)) kept += *slot;
+      } else if (filter.keep(body)) {
+        kept += line;
+      }
     }
     if (kept.size() >= (1u << 20)) {
       write_all(out, kept, output_name);

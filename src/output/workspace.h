@@ -176,6 +176,8 @@ class RegionFilter {
   explicit RegionFilter(bool bounds_checks) : bounds_checks_(bounds_checks) {}
   // Whether the line (without its newline) is written.
   bool keep(std::string_view line);
+  // No region is open: every line but a control line is written.
+  bool idle() const { return outer_.kind == Kind::none; }
 
  private:
   enum class Kind { none, bounds, occurs, third };
