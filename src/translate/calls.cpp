@@ -209,7 +209,7 @@ void Translator::call(const CallInfo& info) {
     t += exception_test(site, row);
     text += t;
   }
-  for (int k = 0; k < operands; ++k) pop_operand();
+  drop_operands(operands);
   Operand& e = push_operand(site.line);
   e.code = std::move(text);
   e.reported = reported;

@@ -354,7 +354,7 @@ void Translator::binary_operator(const Token& op) {
   // Appended in place: a long chain of operators stays linear.
   l.value.append(" ").append(o).append(" ").append(r.value);
   l.ref.reset();
-  code(left) += std::move(pop_operand().code);
+  code(left) += pop_code();
   Operand& e = operand(left);
   e.type_bits = bits;
   e.kind = 0;

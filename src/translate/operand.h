@@ -147,6 +147,9 @@ struct Operand {
   std::shared_ptr<Reference> ref;  // while it is a space reference
 
   bool jump_form() const { return false_label != 0 || true_label != 0; }
+  // Back to a fresh operand, keeping the room of its texts (every member
+  // above has its default again).
+  void reset();
 };
 
 }  // namespace ycc

@@ -45,7 +45,7 @@ void Translator::open_function_body(const Token&, const FunctionLabels& labels) 
     if (errno || n < 1 || n > max_exception) continue;
     if (f.handlers.emplace(static_cast<int>(n), false).second) f.handler_order.push_back(static_cast<int>(n));
   }
-  stack_.clear();
+  clear_stack();
   f.frames.push_back({true, 0});
   ws_.to_fragment = true;
 }
@@ -66,7 +66,7 @@ void Translator::close_function_body(const Token& rbrace) {
     appendf(ws_.wd_locals, "\nvoid *%s[%d];", actuals.c_str(), fn().actuals);
     appendf(ws_.wd_init_code, "\n%s[0] = &(%s);", actuals.c_str(), generated("exception").c_str());
   }
-  stack_.clear();
+  clear_stack();
   fn_.reset();
 }
 
@@ -192,7 +192,7 @@ void Translator::do_end(const Token& rparen) {
   if (!fn().loops.empty()) fn().loops.pop_back();
   std::string top = generated("cont", ++cont_counter_);
   std::string own_false = control_on(top_index());
-  Code condition = pop_operand().code;
+  Code condition = pop_code();
   rename_label(condition, own_false, loop.brk);
   std::string body = pop_text();
   replace_top(0,

@@ -17,7 +17,7 @@ Translator::Translator(const Options& options, Diagnostics& diag, Workspace& ws,
   // Declarations met in the middle of a statement (a nested block's brace and
   // locals) land in the code of the statement that encloses them.
   ws_.fragment_sink = [this]() -> std::string* {
-    return stack_.empty() ? nullptr : &stack_.back().code.appendable();
+    return depth_ == 0 ? nullptr : &top().code.appendable();
   };
 }
 
@@ -29,15 +29,21 @@ FunctionContext& Translator::fn() {
 }
 
 Operand& Translator::push_operand(int line) {
-  stack_.emplace_back();
-  stack_.back().line = line;
-  return stack_.back();
+  if (depth_ == stack_.size())
+    stack_.emplace_back();
+  else
+    stack_[depth_].reset();
+  Operand& e = stack_[depth_++];
+  e.line = line;
+  return e;
 }
 
-Operand Translator::pop_operand() {
-  Operand e = std::move(stack_.back());
-  stack_.pop_back();
-  return e;
+Operand Translator::pop_operand() { return std::move(stack_[--depth_]); }
+
+Code Translator::pop_code() { return std::move(stack_[--depth_].code); }
+
+void Translator::drop_operands(int n) {
+  depth_ -= std::min(depth_, static_cast<size_t>(std::max(n, 0)));
 }
 
 void Translator::ensure_operands(int n, int line) {
@@ -61,7 +67,7 @@ void Translator::join_above(int level, int line) {
 }
 
 void Translator::replace_top(int n, std::string text, int line) {
-  for (int k = 0; k < n && stack_size() > 0; ++k) pop_operand();
+  drop_operands(n);
   push_operand(line).code = Code(std::move(text));
 }
 

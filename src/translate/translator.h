@@ -115,17 +115,22 @@ class Translator {
   void finish_file(int last_line);
 
   // For tests: the stack depth.
-  int stack_size() const { return static_cast<int>(stack_.size()); }
+  int stack_size() const { return static_cast<int>(depth_); }
 
  private:
   // ---- The stack (translator.cpp) ----
   Operand& push_operand(int line);
   Operand& operand(int i) { return stack_[static_cast<size_t>(i)]; }
-  Operand& top() { return stack_.back(); }
+  Operand& top() { return stack_[depth_ - 1]; }
   Code& code(int i) { return operand(i).code; }
-  int top_index() const { return static_cast<int>(stack_.size()) - 1; }
+  int top_index() const { return static_cast<int>(depth_) - 1; }
   Operand pop_operand();
-  std::string pop_text() { return pop_operand().code.take(); }
+  // The top operand's code (or text), the operand dropped.
+  Code pop_code();
+  std::string pop_text() { return pop_code().take(); }
+  // Drops the top `n` operands (fewer when the stack is shorter).
+  void drop_operands(int n);
+  void clear_stack() { depth_ = 0; }
   // Makes sure `n` operands stand on the stack (syntax errors can leave fewer).
   void ensure_operands(int n, int line);
   // Joins every operand above `level` into one.
@@ -247,7 +252,10 @@ class Translator {
   SymbolTable& symbols_;
   const Names& names_;
 
+  // The operands are stack_[0, depth_); the slots above keep the room of
+  // their texts for the next push.
   std::vector<Operand> stack_;
+  size_t depth_ = 0;
   // References live for a statement; their records are reused, with the
   // room their texts had, once no operand holds them.
   std::vector<std::shared_ptr<Reference>> spare_refs_;
