@@ -368,12 +368,11 @@ std::shared_ptr<Reference> Translator::new_reference() {
 
 void Translator::identifier(const Token& name) {
   Operand& e = push_operand(name.line);
-  std::string n(name.text);
-  int sub = symbols_.find_other('o', n, 0);
+  int sub = symbols_.find_other('o', name.text, 0);
   if (!sub) {
-    e.value = n;
+    e.value = name.text;
     e.empty = true;
-    report(e, strf("'%s' is an undeclared identifier", n.c_str()));
+    report(e, strf("'%s' is an undeclared identifier", e.value.c_str()));
     return;
   }
   if (symbols_[sub].name_is != 'v') {

@@ -46,9 +46,10 @@ void Translator::drop_operands(int n) {
   depth_ -= std::min(depth_, static_cast<size_t>(std::max(n, 0)));
 }
 
-void Translator::ensure_operands(int n, int line) {
-  int floor = fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0;
-  while (stack_size() - floor < n) {
+int Translator::frame_floor() const { return fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0; }
+
+void Translator::add_missing_operands(int n, int line) {
+  while (stack_size() - frame_floor() < n) {
     Operand& e = push_operand(line);
     e.reported = true;
     e.empty = true;

@@ -132,7 +132,11 @@ class Translator {
   void drop_operands(int n);
   void clear_stack() { depth_ = 0; }
   // Makes sure `n` operands stand on the stack (syntax errors can leave fewer).
-  void ensure_operands(int n, int line);
+  void ensure_operands(int n, int line) {
+    if (static_cast<int>(depth_) < n + frame_floor()) add_missing_operands(n, line);
+  }
+  int frame_floor() const;
+  void add_missing_operands(int n, int line);
   // Joins every operand above `level` into one.
   void join_above(int level, int line);
   // Pops the top `n` operands and pushes one whose code is `text`.
