@@ -5,13 +5,12 @@
 namespace ycc {
 
 std::string Names::generated(std::string_view word, int number) const {
-  // Most generated names fit the string's own small buffer: no reserve.
+  // One allocation at most: the length is known before the first append.
+  char digits[12];
+  char* end = number >= 1 ? std::to_chars(digits, digits + sizeof digits, number).ptr : digits;
   std::string name;
-  name.append(prefix_).append(prefix_).append(1, '_').append(word);
-  if (number >= 1) {
-    char digits[12];
-    name.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
-  }
+  name.reserve(generated_start_.size() + word.size() + static_cast<size_t>(end - digits));
+  name.append(generated_start_).append(word).append(digits, end);
   return name;
 }
 

@@ -9,7 +9,8 @@ namespace ycc {
 
 class Names {
  public:
-  explicit Names(std::string prefix) : prefix_(prefix.empty() ? std::string("zz") : std::move(prefix)) {}
+  explicit Names(std::string prefix)
+      : prefix_(prefix.empty() ? std::string("zz") : std::move(prefix)), generated_start_(prefix_ + prefix_ + "_") {}
 
   const std::string& prefix() const { return prefix_; }
   // Labels, temporaries and generated functions: the prefix twice, "_", the
@@ -26,6 +27,7 @@ class Names {
 
  private:
   std::string prefix_;
+  std::string generated_start_;  // the prefix twice and "_"
 };
 
 }  // namespace ycc

@@ -3,6 +3,7 @@
 // together with the blanks and line ends that preceded it.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -79,34 +80,62 @@ class Reader {
   std::string scratch_;
 };
 
+// What a byte can begin inside a plain run.
+enum class PlainByte : unsigned char { stop, blank, ident, digit, point, slash, punct };
+inline constexpr std::array<PlainByte, 256> plain_bytes = [] {
+  std::array<PlainByte, 256> t{};
+  for (int i = 0; i < 256; ++i) {
+    char c = static_cast<char>(i);
+    PlainByte k = PlainByte::stop;
+    if (c == ' ')
+      k = PlainByte::blank;
+    else if (is_ident_start(c))
+      k = PlainByte::ident;
+    else if (is_digit(c))
+      k = PlainByte::digit;
+    else if (c == '.')
+      k = PlainByte::point;
+    else if (c == '/')
+      k = PlainByte::slash;
+    else if (c > ' ' && c < 127 && c != '"' && c != '\'' && c != '\\' && c != '$' && c != '@' && c != '`')
+      k = PlainByte::punct;
+    t[static_cast<size_t>(i)] = k;
+  }
+  return t;
+}();
+
 template <class MayBeMacro>
 std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
   size_t p = pos_, last = pos_, n = t_.size();
   while (p < n) {
-    char c = t_[p];
-    if (c == ' ') {
-      ++p;
-      continue;
-    }
-    size_t q;
-    if (is_ident_start(c)) {
-      q = p + 1;
-      while (q < n && is_ident_char(t_[q])) ++q;
-      if (may_be_macro(t_.substr(p, q - p))) break;
-    } else if (is_digit(c) || (c == '.' && p + 1 < n && is_digit(t_[p + 1]))) {
-      q = skip_number(t_, p);
-    } else if (c == '/') {
-      if (p + 1 < n && (t_[p + 1] == '*' || t_[p + 1] == '/')) break;
-      q = p + 1;
-    } else if (c > ' ' && c < 127 && c != '"' && c != '\'' && c != '\\' && c != '$' && c != '@' && c != '`') {
-      q = p + 1;
-    } else {
-      break;
+    size_t q = p + 1;
+    switch (plain_bytes[static_cast<unsigned char>(t_[p])]) {
+      case PlainByte::blank:
+        ++p;
+        continue;
+      case PlainByte::ident:
+        while (q < n && is_ident_char(t_[q])) ++q;
+        if (may_be_macro(t_.substr(p, q - p))) goto done;
+        break;
+      case PlainByte::point:
+        if (!(p + 1 < n && is_digit(t_[p + 1]))) break;
+        [[fallthrough]];
+      case PlainByte::digit:
+        q = skip_number(t_, p);
+        break;
+      case PlainByte::slash:
+        if (p + 1 < n && (t_[p + 1] == '*' || t_[p + 1] == '/')) goto done;
+        break;
+      case PlainByte::punct:
+        break;
+      case PlainByte::stop:
+        goto done;
     }
     // A word that a continuation extends is the reader's to join.
     if (q < n && t_[q] == '\\') break;
     p = last = q;
   }
+done:
   std::string_view run = t_.substr(pos_, last - pos_);
   pos_ = last;
   return run;
