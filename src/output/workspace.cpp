@@ -85,11 +85,13 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
       size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
       size_t end = std::min(text.size(), i + room), j = i;
       while (j < end && text[j] != '\n' && text[j] != '\'' && text[j] != '"') ++j;
-      if (j > i) {
-        out.append(text.data() + i, j - i);
-        column += static_cast<int>(j - i);
+      // A newline outside literals only starts the next line: taken with the run.
+      bool newline = j < text.size() && text[j] == '\n';
+      if (j > i || newline) {
+        out.append(text.data() + i, j - i + (newline ? 1 : 0));
+        column = newline ? 0 : column + static_cast<int>(j - i);
         backslashes = 0;
-        i = j;
+        i = j + (newline ? 1 : 0);
         continue;
       }
     }
