@@ -200,6 +200,8 @@ INSTANTIATE_TEST_SUITE_P(
         RegionCase{"other_letters_inside_are_text", "\n##g\n##c\n##b\n##f\nZ", true, "\n##c\n##b\nZ"},
         RegionCase{"other_letters_inside_dropped", "\n##d\nP1\n##b\n##f\nP2\n##c\nZ", true, "\nP1\nZ"},
         RegionCase{"hash_text_not_control", "\n# define x\n#merge_not\nZ", true, "\n# define x\n#merge_not\nZ"},
+        RegionCase{"hash_inside_a_line_is_text", "\nx = \"#merge 0\";\n##e\nO\n##f\ny # ##e\nZ", true,
+                   "\nx = \"#merge 0\";\ny # ##e\nZ"},
         // A varspace's read checks hold the limit and occurs tests of a one-subscript reference.
         RegionCase{"read_keeps_inner_part2", "\n##a\nG\n##b\n##h\nL\n##i\nO\n##j\n##c\nZ", true, "\nO\nZ"},
         RegionCase{"write_drops_inner", "\n##d\nG\n##b\n##k\nL\n##i\nO\n##j\n##c\nZ", true, "\nG\nZ"},
@@ -221,6 +223,20 @@ std::string repeat(const std::string& s, int n) {
   std::string out;
   for (int i = 0; i < n; ++i) out += s;
   return out;
+}
+
+// The work file is read in pieces of a megabyte: markers and regions on
+// either side of a piece's end, and a line that spans it, come out whole.
+TEST(WorkspaceAssembly, MarkersAcrossTheReadPieces) {
+  Fixture f;
+  Workspace& ws = f.make();
+  // The first piece ends inside the "##e" line.
+  const std::string lines = "\n" + std::string((1 << 20) - 4, 'p');
+  ws.put_text('n', lines + "\n##e\nO\n##f");
+  ws.start_output();
+  ws.globals += "int g;\n";
+  ws.put_text('n', std::string(1 << 20, 'w') + "\n##g\nkept\n##f\nZ");
+  EXPECT_EQ(f.body(), lines + "\nint g;\n" + std::string(1 << 20, 'w') + "\nkept\nZ\n\n");
 }
 
 // Text written with newline_bgn 'n' at indentation 0, and the work file after it.
