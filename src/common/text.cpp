@@ -11,26 +11,18 @@ namespace ycc {
 
 namespace {
 
-// Whether every conversion of `fmt` is one of %s %d %u %c %%: those are
-// formatted here, without the C library's general machinery, which is most
-// of the cost of composing generated text.
-bool plain_conversions(const char* fmt) {
-  for (const char* p = std::strchr(fmt, '%'); p; p = std::strchr(p + 2, '%')) {
-    char c = p[1];
-    if (c != 's' && c != 'd' && c != 'u' && c != 'c' && c != '%') return false;
-  }
-  return true;
-}
-
-void append_plain(std::string& out, const char* fmt, va_list ap) {
+// Formats `fmt` when every conversion in it is one of %s %d %u %c %%, which
+// is how generated text is composed: without the C library's general
+// machinery, and with one pass over the format and no library call per
+// piece. False, with `out` as it was, at any other conversion.
+bool append_plain(std::string& out, const char* fmt, va_list ap) {
+  const size_t start = out.size();
   char digits[24];
-  for (const char* p = fmt; *p;) {
-    const char* q = std::strchr(p, '%');
-    if (!q) {
-      out.append(p);
-      return;
-    }
+  for (const char* p = fmt;;) {
+    const char* q = p;
+    while (*q != '\0' && *q != '%') ++q;
     out.append(p, static_cast<size_t>(q - p));
+    if (*q == '\0') return true;
     switch (q[1]) {
       case 's': out.append(va_arg(ap, const char*)); break;
       case 'c': out.push_back(static_cast<char>(va_arg(ap, int))); break;
@@ -40,11 +32,14 @@ void append_plain(std::string& out, const char* fmt, va_list ap) {
         out.append(digits, r.ptr);
         break;
       }
-      default: {
+      case 'u': {
         auto r = std::to_chars(digits, digits + sizeof digits, va_arg(ap, unsigned));
         out.append(digits, r.ptr);
         break;
       }
+      default:
+        out.resize(start);
+        return false;
     }
     p = q + 2;
   }
@@ -53,10 +48,11 @@ void append_plain(std::string& out, const char* fmt, va_list ap) {
 }  // namespace
 
 void vappendf(std::string& out, const char* fmt, va_list ap) {
-  if (plain_conversions(fmt)) {
-    append_plain(out, fmt, ap);
-    return;
-  }
+  va_list plain;
+  va_copy(plain, ap);
+  bool done = append_plain(out, fmt, plain);
+  va_end(plain);
+  if (done) return;
   va_list ap2;
   va_copy(ap2, ap);
   int n = std::vsnprintf(nullptr, 0, fmt, ap);

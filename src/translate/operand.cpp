@@ -20,6 +20,7 @@ Code& Code::operator+=(Code&& other) {
   if (text_.empty()) {
     text_ = std::move(other.text_);
   } else {
+    room(other.text_.size());
     text_.append(other.text_);
   }
   for (size_t p : other.markers_) markers_.push_back(base + p);

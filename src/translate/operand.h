@@ -9,6 +9,7 @@
 // scanning the text; a marker is final once rewritten.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -38,9 +39,13 @@ class Code {
   }
 
   // The text for writers that only append plain text at its end.
-  std::string& appendable() { return text_; }
+  std::string& appendable() {
+    room(64);
+    return text_;
+  }
   // Plain text, which holds no marker line.
   Code& operator+=(std::string_view s) {
+    room(s.size());
     text_.append(s);
     return *this;
   }
@@ -75,6 +80,13 @@ class Code {
 
  private:
   void shift_from(size_t pos, std::ptrdiff_t delta);
+  // Room for `more` bytes. A code grows by many small appends: it starts
+  // with a few lines' room instead of doubling up from the string's own.
+  void room(size_t more) {
+    if (text_.size() + more > text_.capacity()) [[unlikely]]
+      text_.reserve(std::max({text_.size() + more, 2 * text_.capacity(), first_room}));
+  }
+  static constexpr size_t first_room = 256;
 
   std::string text_;
   std::vector<size_t> markers_;  // positions of the letters still to rewrite (a, e, h)
