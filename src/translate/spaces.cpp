@@ -39,7 +39,11 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   const Symbol& s = symbols_[sym];
   // Space and structure parameters and returns arrive as pointers.
   bool pointer = container.empty() && (s.p_or_r == 'p' || s.p_or_r == 'r');
-  std::string name = container.empty() ? c_name(s.name) : container + "." + c_name(s.name);
+  // A variable of its own whose name C leaves alone, the common case, is
+  // named without composing a new text.
+  const bool own_name = container.empty() && !clashes_with_c_headers(s.name);
+  std::string name = own_name ? std::string() : container.empty() ? c_name(s.name) : container + "." + c_name(s.name);
+  const std::string& c_text = own_name ? s.name : name;
   r.sym = sym;
   if (container.empty()) r.root = sym;
   r.path.emplace_back(sym, false);
@@ -52,9 +56,9 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   bool structure = t && symbols_[t].name_is == 's';
   if (s.dim_count() > 0) {
     if (pointer)
-      r.record = "(*" + name + ")";
+      r.record = "(*" + c_text + ")";
     else if (s.is_var == 'y')
-      r.record = name;
+      r.record = c_text;
     else
       r.record = container.empty() ? names_.companion(s.name) : container + "." + names_.companion(s.name);
     e.value = r.record;
@@ -62,12 +66,15 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
       // A structure in a varspace's block moves when the block grows, and
       // fresh elements are zeroed: its fixed-space member's companion is
       // pointed at the member, with its sizes, before it is used.
-      appendf(r.checks, "\n%s.ptr = %s;", r.record.c_str(), name.c_str());
+      appendf(r.checks, "\n%s.ptr = %s;", r.record.c_str(), c_text.c_str());
       for (int k = 1; k <= s.dim_count(); ++k)
         appendf(r.checks, "\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
     }
   } else {
-    r.object = pointer && structure ? "(*" + name + ")" : name;
+    if (pointer && structure)
+      r.object = "(*" + c_text + ")";
+    else
+      r.object = c_text;
     e.value = r.object;
   }
   e.type_bits = symbols_.type_bits_of(sym);

@@ -474,7 +474,7 @@ void Translator::switch_start(const Token& rparen) {
   int i = top_index();
   to_value(i);
   Operand& e = operand(i);
-  bool integral = class_message(e, 7, true).empty();
+  bool integral = class_passes(e, 7, true);
   bool enumeration = is_enum(e) && e.dims == 0 && !e.casted;
   if (!e.reported && !integral && !enumeration)
     report(e, "the expression of the switch statement requires an integral or enumeration type");

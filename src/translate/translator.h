@@ -39,6 +39,8 @@ inline bool is_floating(int bits) { return (bits & 48) != 0; }
 // The operand class test (classes 1 to 8): empty when `e` passes, else the
 // class message ("cannot be a space, the required type is scalar").
 std::string class_message(const Operand& e, int cls, bool refuse_aggregates);
+// The same test without the message.
+bool class_passes(const Operand& e, int cls, bool refuse_aggregates);
 
 // What an aggregate operand of an assignment designates.
 struct Aggregate {
