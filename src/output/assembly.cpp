@@ -71,17 +71,19 @@ class LineReader {
   void fill() {
     buffer_.erase(0, at_);
     at_ = 0;
-    size_t got = std::fread(piece_.get(), 1, chunk, in_);
-    buffer_.append(piece_.get(), got);
+    // Read straight into the buffer's tail: no second copy of each piece.
+    size_t kept = buffer_.size();
+    buffer_.resize(kept + chunk);
+    size_t got = std::fread(buffer_.data() + kept, 1, chunk, in_);
+    buffer_.resize(kept + got);
     if (got < chunk) {
       if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
       eof_ = true;
     }
   }
 
-  static constexpr size_t chunk = 1 << 20;
+  static constexpr size_t chunk = 1 << 18;
   std::FILE* in_;
-  std::unique_ptr<char[]> piece_{new char[chunk]};  // read into without being cleared first
   std::string buffer_;
   size_t at_ = 0;
   bool eof_ = false;
@@ -141,7 +143,7 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
         kept += line;
       }
     }
-    if (kept.size() >= (1u << 20)) {
+    if (kept.size() >= (1u << 18)) {
       write_all(out, kept, output_name);
       kept.clear();
     }
@@ -204,7 +206,7 @@ void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_
     } else if (filter.keep(body)) {
       feed(raw);
     }
-    if (kept.size() >= (1u << 20)) {
+    if (kept.size() >= (1u << 18)) {
       write_all(out, kept, output_name);
       kept.clear();
     }

@@ -225,8 +225,9 @@ std::string repeat(const std::string& s, int n) {
   return out;
 }
 
-// The work file is read in pieces of a megabyte: markers and regions on
-// either side of a piece's end, and a line that spans it, come out whole.
+// The work file is read in pieces whose size divides a megabyte: markers
+// and regions on either side of a piece's end, and lines that span pieces,
+// come out whole.
 TEST(WorkspaceAssembly, MarkersAcrossTheReadPieces) {
   Fixture f;
   Workspace& ws = f.make();
