@@ -33,7 +33,7 @@ class CountingActions : public Actions {
   }
   void complete_declarator(const Token* name, bool) override {
     ++calls;
-    if (typedef_ && name) typedefs_.insert(std::string(name->text));
+    if (typedef_ && name) typedefs_.insert(std::string(name->text()));
   }
   void identifier(const Token&) override { ++calls; }
   void constant(const Token&) override { ++calls; }

@@ -38,7 +38,7 @@ std::string read_all(std::FILE* f, const std::string& name) {
 void dump_tokens(const TokenBuffer& tokens, std::ostream& out) {
   for (const Token& t : tokens.tokens) {
     out << t.line << ' ' << token_name(t.tok);
-    if (!t.text.empty()) out << ' ' << t.text;
+    if (!t.text().empty()) out << ' ' << t.text();
     out << '\n';
   }
 }

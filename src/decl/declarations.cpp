@@ -107,7 +107,7 @@ void Declarations::add_storage_class(const Token& t) {
 void Declarations::add_type_keyword(const Token& t) {
   DeclState& d = decl();
   int bit = keyword_bit(t.tok);
-  std::string word(t.text);
+  std::string word(t.text());
   if (d.type_sym) {
     error(t.line, d.entry, ERR_TYPE, strf("'%s' cannot be mixed with another type", word.c_str()));
     d.spec_errors |= ERR_TYPE;
@@ -129,7 +129,7 @@ void Declarations::add_var_qualifier(const Token&) {
 
 void Declarations::use_typedef_name(const Token& name) {
   DeclState& d = decl();
-  std::string n(name.text);
+  std::string n(name.text());
   if (d.type_bits || d.type_sym) {
     error(name.line, d.entry, ERR_TYPE,
           strf("typedef type '%s' cannot be mixed with other type specifiers", n.c_str()));
@@ -141,7 +141,7 @@ void Declarations::use_typedef_name(const Token& name) {
 
 void Declarations::use_tag(TagKind kind, const Token& tag) {
   DeclState& d = decl();
-  std::string n(tag.text);
+  std::string n(tag.text());
   d.had_tag = true;
   d.tag_kind = tag_kind_char(kind);
   if (d.type_bits || d.type_sym) {
@@ -174,7 +174,7 @@ const char* Declarations::list_name() const {
 void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, bool has_body) {
   DeclState& d = decl();
   int line = tag ? tag->line : at.line;
-  int earlier = tag ? symbols_.find_in_scope('g', SymbolTable::stored_name(tag->text)) : 0;
+  int earlier = tag ? symbols_.find_in_scope('g', SymbolTable::stored_name(tag->text())) : 0;
   d.tag_kind = tag_kind_char(kind);
   if (!has_body) {
     // "struct s;" names a tag ahead of its body; naming it again is harmless.
@@ -191,7 +191,7 @@ void Declarations::declare_tag(TagKind kind, const Token* tag, const Token& at, 
   s.local = symbols_.depth() > 0;
   if (!tags_.empty()) s.owner = tags_.back();  // nested tags know their container
   if (tag)
-    s.name = SymbolTable::stored_name(tag->text);
+    s.name = SymbolTable::stored_name(tag->text());
   else
     symbols_.make_anonymous(sub);
   if (mixed) error(line, sub, ERR_TYPE, strf("%s cannot be mixed with other type specifiers", tag_word(kind)));
@@ -222,7 +222,7 @@ void Declarations::enumerator(const Token& name) {
   int e = tags_.empty() ? 0 : tags_.back();
   int sub = symbols_.new_symbol();
   Symbol& s = symbols_[sub];
-  s.name = SymbolTable::stored_name(name.text);
+  s.name = SymbolTable::stored_name(name.text());
   s.name_class = 'o';
   s.name_is = 'c';
   s.owner = e;
@@ -296,7 +296,7 @@ void Declarations::begin_declarator(const Token&) {
 }
 
 void Declarations::declarator_name(const Token& name) {
-  symbols_[decl().current].name = SymbolTable::stored_name(name.text);
+  symbols_[decl().current].name = SymbolTable::stored_name(name.text());
 }
 
 void Declarations::add_dimension(bool has_size, const Token& lbracket) {
@@ -685,7 +685,7 @@ void Declarations::report_unreferenced(int first) {
 void Declarations::enter_function_name(const Token& name, bool is_static, bool is_definition) {
   int sub = symbols_.new_symbol();
   Symbol& s = symbols_[sub];
-  s.name = SymbolTable::stored_name(name.text);
+  s.name = SymbolTable::stored_name(name.text());
   s.name_class = 'o';
   s.name_is = is_definition ? 'f' : 'd';
   if (is_static) s.storage = STORAGE_STATIC;
@@ -855,11 +855,11 @@ void Declarations::initializer_close_brace(const Token& t) {
 }
 
 void Declarations::initializer_identifier(const Token& name, const Token* sign) {
-  InitItem item{'i', std::string(name.text), std::string(name.text)};
+  InitItem item{'i', std::string(name.text()), std::string(name.text())};
   item.line = name.line;
   if (sign) {
-    item.sign = sign->text[0];
-    item.text = std::string(sign->text) + item.text;
+    item.sign = sign->text()[0];
+    item.text = std::string(sign->text()) + item.text;
   }
   init_items_.push_back(item);
 }
@@ -871,7 +871,7 @@ void Declarations::initializer_constant(const Token& first) {
   bool plain = last_literal_ && (const_ops_ == 0 || (const_ops_ == 1 && literal_sign_));
   if (plain) {
     const Token& lit = *last_literal_;
-    std::string text(lit.text);
+    std::string text(lit.text());
     item.sign = literal_sign_;
     std::string sign = literal_sign_ ? std::string(1, literal_sign_) : "";
     item.text = sign + text;
@@ -932,12 +932,12 @@ Folded Declarations::pop_constant() {
 void Declarations::const_literal(const Token& t) {
   last_literal_ = &t;
   switch (t.tok) {
-    case T_DECIMALINT: constants_.push_back(Folded::literal('d', t.text)); break;
-    case T_HEXADECIMAL: constants_.push_back(Folded::literal('x', t.text)); break;
+    case T_DECIMALINT: constants_.push_back(Folded::literal('d', t.text())); break;
+    case T_HEXADECIMAL: constants_.push_back(Folded::literal('x', t.text())); break;
     case T_FLOATONE:
-    case T_FLOATTWO: constants_.push_back(Folded::literal('f', t.text)); break;
+    case T_FLOATTWO: constants_.push_back(Folded::literal('f', t.text())); break;
     case T_CHARACTER: {
-      CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      CharacterConstant c = check_character_constant(t.text(), diag_, t.line);
       last_char_value_ = c.value;
       last_char_c_text_ = c.c_text;
       Folded f = Folded::literal('d', std::to_string(c.value < 0 ? -c.value : c.value));
@@ -947,7 +947,7 @@ void Declarations::const_literal(const Token& t) {
     }
     default: {
       // A string has no arithmetic value; it folds as 1 like any faulty operand.
-      StringConstant sc = check_string_constant(t.text, diag_, t.line);
+      StringConstant sc = check_string_constant(t.text(), diag_, t.line);
       last_string_c_text_ = sc.c_text;
       last_string_length_ = sc.length;
       constants_.push_back(Folded::literal('d', "1"));
@@ -957,7 +957,7 @@ void Declarations::const_literal(const Token& t) {
 }
 
 void Declarations::const_unary(const Token& op) {
-  if (const_ops_ == 0 && last_literal_) literal_sign_ = op.text[0];
+  if (const_ops_ == 0 && last_literal_) literal_sign_ = op.text()[0];
   ++const_ops_;
   if (op.tok == T_MINUS) constants_.push_back(fold_negate(pop_constant()));
 }
@@ -966,7 +966,7 @@ void Declarations::const_binary(const Token& op) {
   const_ops_ += 2;
   Folded b = pop_constant();
   Folded a = pop_constant();
-  constants_.push_back(fold_binary(op.text.empty() ? '+' : op.text[0], a, b, diag_, op.line));
+  constants_.push_back(fold_binary(op.text().empty() ? '+' : op.text()[0], a, b, diag_, op.line));
 }
 
 void Declarations::const_error_operand(const Token&) { constants_.push_back(Folded::literal('d', "1")); }

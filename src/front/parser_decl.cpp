@@ -175,7 +175,7 @@ void Parser::return_declaration(ListOwner owner) {
 }
 
 bool Parser::typedef_name_at(std::size_t i) const {
-  return tok_at(i) == T_IDENTIFIER && act_.is_typedef_name(toks_[i].text);
+  return tok_at(i) == T_IDENTIFIER && act_.is_typedef_name(toks_[i].text());
 }
 
 // A type: a type keyword, struct, enum, fun, or a typedef name.

@@ -88,7 +88,7 @@ class Parser {
   // ---- core: tokens ----
   const Token& cur() const { return toks_[pos_]; }
   const Token& peek(std::size_t k) const;
-  int tok_at(std::size_t i) const { return i < toks_.size() ? toks_[i].tok : T_Eof; }
+  int tok_at(std::size_t i) const { return i < toks_.size() ? static_cast<int>(toks_[i].tok) : T_Eof; }
   bool at(int tok) const { return cur().tok == tok; }
   const Token& advance();
   bool accept(int tok);

@@ -6,7 +6,7 @@ namespace ycc {
 
 std::string SyntaxErrors::quoted(const Token& t) {
   if (t.tok == T_Eof) return "end of file";
-  return std::string(t.text.substr(0, quoted_limit));
+  return std::string(t.text().substr(0, quoted_limit));
 }
 
 void SyntaxErrors::report(int& last_line, const Token& current, const char* format) {

@@ -27,7 +27,7 @@ void Translator::assignment(AssignMode mode, const Token& op) {
   ensure_operands(2, op.line);
   int left = top_index() - 1, right = top_index();
   to_value(right);
-  std::string o(op.text);
+  std::string o(op.text());
   Operand& l = operand(left);
   Operand& r = operand(right);
   bool reported = l.reported || r.reported;

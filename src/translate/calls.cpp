@@ -56,7 +56,7 @@ void Translator::call(const CallInfo& info) {
     site.signature = p.kind == 'n' ? p.type_sym : 0;
     callee_text = "\n(*(" + p.value + "))(";
   } else {
-    site.name = std::string(info.callee->text);
+    site.name = std::string(info.callee->text());
     site.head = "call '" + site.name + "'";
     site.reference = "the prototype";
     site.possessive = "prototype's";

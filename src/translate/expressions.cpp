@@ -14,7 +14,7 @@ namespace ycc {
 
 namespace {
 
-std::string op_text(const Token& op) { return std::string(op.text); }
+std::string op_text(const Token& op) { return std::string(op.text()); }
 
 // Splits the upper-case suffix letters off a numeric constant.
 std::string_view without_suffix(std::string_view text, std::string& suffix) {
@@ -37,7 +37,7 @@ std::string_view without_suffix(std::string_view text, std::string& suffix) {
 void Translator::constant(const Token& t) {
   Operand& e = push_operand(t.line);
   e.literal = true;
-  std::string text(t.text);
+  std::string text(t.text());
   switch (t.tok) {
     case T_DECIMALINT:
     case T_HEXADECIMAL: {
@@ -97,7 +97,7 @@ void Translator::constant(const Token& t) {
       break;
     }
     case T_CHARACTER: {
-      CharacterConstant c = check_character_constant(t.text, diag_, t.line);
+      CharacterConstant c = check_character_constant(t.text(), diag_, t.line);
       if (c.error) e.reported = true;
       e.value = c.c_text;
       e.type_bits = TB_CHAR;

@@ -96,7 +96,7 @@ std::string Translator::subscript_source(const Token& lbracket) const {
   for (int depth = 0; i < toks.size() && toks[i].tok != T_Eof; ++i) {
     if (toks[i].tok == T_LSQUAREBRACKET) ++depth;
     if (toks[i].tok == T_RSQUAREBRACKET && depth-- == 0) break;
-    std::string_view t = toks[i].text;
+    std::string_view t = toks[i].text();
     if (!text.empty() && !t.empty() && joins_words(text.back(), t.front())) text += ' ';
     text += t;
   }
@@ -375,9 +375,9 @@ std::shared_ptr<Reference> Translator::new_reference() {
 
 void Translator::identifier(const Token& name) {
   Operand& e = push_operand(name.line);
-  int sub = symbols_.find_other('o', name.text, 0);
+  int sub = symbols_.find_other('o', name.text(), 0);
   if (!sub) {
-    e.value = name.text;
+    e.value = name.text();
     e.empty = true;
     report(e, strf("'%s' is an undeclared identifier", e.value.c_str()));
     return;
@@ -397,7 +397,7 @@ void Translator::identifier(const Token& name) {
 void Translator::member(const Token& name) {
   ensure_operands(1, name.line);
   Operand& e = top();
-  std::string m(name.text);
+  std::string m(name.text());
   if (!e.ref) {
     if (!e.reported)
       report(e, strf("'%s' cannot be appended to '%s', because '%s' does not reference a structure", m.c_str(),

@@ -35,13 +35,13 @@ void Translator::open_function_body(const Token&, const FunctionLabels& labels) 
   fn_ = std::make_unique<FunctionContext>();
   FunctionContext& f = *fn_;
   for (const Token* t : labels.labels) {
-    FunctionContext::Label& info = f.statement_labels[std::string(t->text)];
+    FunctionContext::Label& info = f.statement_labels[std::string(t->text())];
     if (info.line == 0) info.line = t->line;
   }
   for (const Token* t : labels.handlers) {
     char* end = nullptr;
     errno = 0;
-    long n = std::strtol(std::string(t->text).c_str(), &end, 10);
+    long n = std::strtol(std::string(t->text()).c_str(), &end, 10);
     if (errno || n < 1 || n > max_exception) continue;
     if (f.handlers.emplace(static_cast<int>(n), false).second) f.handler_order.push_back(static_cast<int>(n));
   }
@@ -235,7 +235,7 @@ void Translator::for_end(const Token& last) {
 // ---- Jumps ---------------------------------------------------------------------------
 
 void Translator::goto_stmt(const Token& label) {
-  std::string name(label.text);
+  std::string name(label.text());
   push_operand(label.line);
   auto found = fn().statement_labels.find(name);
   if (found == fn().statement_labels.end()) {
@@ -281,7 +281,7 @@ void Translator::return_stmt(const Token& keyword) {
 }
 
 bool Translator::exception_number(const Token& number, int& value) {
-  std::string text(number.text);
+  std::string text(number.text());
   errno = 0;
   char* end = nullptr;
   long n = std::strtol(text.c_str(), &end, 10);
@@ -317,7 +317,7 @@ void Translator::enter_labelled_statement(LabelKind kind, const Token&) {
 }
 
 void Translator::statement_label(const Token& name) {
-  std::string n(name.text);
+  std::string n(name.text());
   FunctionContext::Label& info = fn().statement_labels[n];
   if (info.line == 0) info.line = name.line;
   if (++info.defined > 1)
@@ -340,7 +340,7 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
   if (mode != 1 && mode != 2) internal_check_failed("mode == 1 || mode == 2", source_name, __LINE__);
 
   if (form == CaseForm::Identifier) {
-    std::string name(value.text);
+    std::string name(value.text());
     int sub = symbols_.find_other('o', name, 0);
     if (sub) ++symbols_[sub].ref_count;
     if (pending) *pending = "\ncase " + c_name(name) + ":";
@@ -373,7 +373,7 @@ void Translator::case_label(CaseForm form, int mode, const Token& value) {
   std::string sign, text;
   long long number = 0;
   if (form == CaseForm::Character) {
-    CharacterConstant c = check_character_constant(value.text, diag_, value.line);
+    CharacterConstant c = check_character_constant(value.text(), diag_, value.line);
     text = c.c_text;
     number = c.value;
   } else {

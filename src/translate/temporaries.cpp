@@ -52,11 +52,11 @@ std::string Translator::temporary(int type_bits) {
 }
 
 void Translator::string_literal(Operand& e, const Token& t) {
-  StringConstant sc = check_string_constant(t.text, diag_, t.line);
+  StringConstant sc = check_string_constant(t.text(), diag_, t.line);
   if (sc.error) e.reported = true;
   std::string s = generated("string", ++string_counter_);
   int length = sc.length;
-  if (t.text.size() <= 400) {
+  if (t.text().size() <= 400) {
     add_local(strf("\nstatic char %s[%d] = %s;", s.c_str(), length + 1, sc.c_text.c_str()));
   } else {
     // A list of character constants meets no C compiler's limit on literals.

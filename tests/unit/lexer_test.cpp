@@ -16,7 +16,7 @@ std::string describe(const TokenBuffer& b) {
   for (const Token& t : b.tokens) {
     if (t.tok == T_Eof) break;
     if (!out.empty()) out += ' ';
-    out += std::string(token_name(t.tok)) + ":" + std::string(t.text);
+    out += std::string(token_name(t.tok)) + ":" + std::string(t.text());
   }
   return out;
 }
@@ -186,8 +186,22 @@ TEST(LexLimits, VeryLongTokenKeptWhole) {
   std::string str = "\"" + std::string(30000, 'z') + "\"";
   TokenBuffer b = tokenize(ident + " " + str, files, err);
   ASSERT_EQ(b.tokens.size(), 3u);
-  EXPECT_EQ(b.tokens[0].text, ident);
-  EXPECT_EQ(b.tokens[1].text, str);
+  EXPECT_EQ(b.tokens[0].text(), ident);
+  EXPECT_EQ(b.tokens[1].text(), str);
+}
+
+// Past what a token record holds, a text is seen cut; the token keeps its
+// number, and the text after it is lexed as usual.
+TEST(LexLimits, TokenPastTheRecordIsSeenCut) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize(std::string(Token::max_text + 5, 'q') + " 7", files, err);
+  ASSERT_EQ(b.tokens.size(), 3u);
+  EXPECT_EQ(b.tokens[0].tok, T_IDENTIFIER);
+  EXPECT_EQ(b.tokens[0].text(), std::string(Token::max_text, 'q'));
+  EXPECT_EQ(b.tokens[1].tok, T_DECIMALINT);
+  EXPECT_EQ(b.tokens[1].text(), "7");
+  EXPECT_EQ(err.str(), "");
 }
 
 TEST(LexLimits, EmptyInputIsJustEof) {
@@ -196,7 +210,7 @@ TEST(LexLimits, EmptyInputIsJustEof) {
   TokenBuffer b = tokenize("", files, err);
   ASSERT_EQ(b.tokens.size(), 1u);
   EXPECT_EQ(b.tokens[0].tok, T_Eof);
-  EXPECT_EQ(b.tokens[0].text, "");
+  EXPECT_EQ(b.tokens[0].text(), "");
 }
 
 struct SyntaxFixture {

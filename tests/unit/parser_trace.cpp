@@ -44,7 +44,7 @@ const char* label_name(LabelKind k) {
 }  // namespace
 
 std::string TraceActions::tok(const Token& t) const {
-  std::string s = t.tok == T_Eof ? std::string("<eof>") : std::string(t.text);
+  std::string s = t.tok == T_Eof ? std::string("<eof>") : std::string(t.text());
   if (show_lines) s += "@" + std::to_string(t.line);
   return s;
 }
@@ -90,7 +90,7 @@ void TraceActions::add_resize_group(bool number, bool percent, const Token&) {
 void TraceActions::complete_declarator(const Token* name, bool initialized) {
   if (name && typedef_declaration_ &&
       (context_ == DeclContext::External || context_ == DeclContext::Block))
-    typedefs_.back().insert(std::string(name->text));
+    typedefs_.back().insert(std::string(name->text()));
   std::vector<std::string> args{name ? tok(*name) : "anonymous"};
   if (initialized) args.push_back("initialized");
   line("complete_declarator", args);
