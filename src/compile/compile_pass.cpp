@@ -14,7 +14,7 @@ namespace ycc {
 
 namespace {
 
-// Closes a C stream on every way out; a closed tmpfile vanishes.
+// Closes a C stream on every way out.
 struct StreamCloser {
   std::FILE* f;
   ~StreamCloser() {
@@ -65,14 +65,10 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
                              const std::string& source, const std::string& prefix_arg, std::string* text) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
-  StreamCloser work{std::tmpfile()};
-  if (!work.f)
-    fatal(strf("unable to create temporary work file: %s", system_error_text(errno).c_str()));
   diag.begin_compile();
   if (!workspace_) workspace_ = std::make_unique<Workspace>(options, diag);
   Workspace& ws = *workspace_;
   ws.reset();
-  ws.attach_work_file(work.f);
   ws.set_prefix(prefix);
 
   std::string read;

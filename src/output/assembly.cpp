@@ -1,5 +1,5 @@
 // Assembly of the output C file: header, meta record types, then the work
-// file with merge markers replaced by their slots and "##" regions resolved.
+// text with merge markers replaced by their slots and "##" regions resolved.
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
@@ -28,67 +28,6 @@ void write_all(std::FILE* out, std::string_view text, const std::string& name) {
     output_write_failed(name);
 }
 
-// Reads the work file in large pieces and hands over whole lines, one at a
-// time or as a block of every complete line read so far.
-class LineReader {
- public:
-  explicit LineReader(std::FILE* in) : in_(in) {}
-  // The next line with its newline (the last may lack one); false at the end.
-  bool next(std::string_view& line) {
-    for (;;) {
-      size_t nl = buffer_.find('\n', at_);
-      if (nl != std::string::npos) {
-        line = std::string_view(buffer_).substr(at_, nl + 1 - at_);
-        at_ = nl + 1;
-        return true;
-      }
-      if (eof_) {
-        if (at_ >= buffer_.size()) return false;
-        line = std::string_view(buffer_).substr(at_);
-        at_ = buffer_.size();
-        return true;
-      }
-      fill();
-    }
-  }
-  // The lines not yet handed over, up to the last newline read (at the end,
-  // to the end of the file); false at the end.
-  bool next_block(std::string_view& block) {
-    for (;;) {
-      size_t nl = buffer_.rfind('\n');
-      size_t end = eof_ ? buffer_.size() : (nl == std::string::npos || nl < at_ ? at_ : nl + 1);
-      if (end > at_) {
-        block = std::string_view(buffer_).substr(at_, end - at_);
-        at_ = end;
-        return true;
-      }
-      if (eof_) return false;
-      fill();
-    }
-  }
-
- private:
-  void fill() {
-    buffer_.erase(0, at_);
-    at_ = 0;
-    // Read straight into the buffer's tail: no second copy of each piece.
-    size_t kept = buffer_.size();
-    buffer_.resize(kept + chunk);
-    size_t got = std::fread(buffer_.data() + kept, 1, chunk, in_);
-    buffer_.resize(kept + got);
-    if (got < chunk) {
-      if (std::ferror(in_)) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
-      eof_ = true;
-    }
-  }
-
-  static constexpr size_t chunk = 1 << 18;
-  std::FILE* in_;
-  std::string buffer_;
-  size_t at_ = 0;
-  bool eof_ = false;
-};
-
 // The first line at or after `pos` (a line start) that begins with '#', or
 // the end of the text.
 size_t next_hash_line(std::string_view text, size_t pos) {
@@ -116,18 +55,22 @@ const std::string* Workspace::merge_text(std::string_view marker) const {
   return slot.length() >= 1 ? slot.data : nullptr;
 }
 
-void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
+void Workspace::copy_work_text(std::FILE* out, const std::string& output_name) {
   RegionFilter filter(options_.bounds_checks);
-  LineReader reader(work_file_);
   std::string kept;  // written out in large pieces
-  std::string_view block;
-  while (reader.next_block(block)) {
+  for (std::string_view block : work_) {
     for (size_t pos = 0; pos < block.size();) {
       if (filter.idle()) {
         // Outside regions only lines that begin with '#' can be markers:
-        // the lines before the next one are kept as they stand.
+        // the lines before the next one are written as they stand.
         size_t hash = next_hash_line(block, pos);
-        kept.append(block.substr(pos, hash - pos));
+        if (hash - pos >= (1u << 12)) {
+          write_all(out, kept, output_name);
+          kept.clear();
+          write_all(out, block.substr(pos, hash - pos), output_name);
+        } else {
+          kept.append(block.substr(pos, hash - pos));
+        }
         pos = hash;
         if (pos == block.size()) break;
       }
@@ -143,7 +86,7 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
         kept += line;
       }
     }
-    if (kept.size() >= (1u << 18)) {
+    if (kept.size() >= (1u << 16)) {
       write_all(out, kept, output_name);
       kept.clear();
     }
@@ -151,9 +94,8 @@ void Workspace::copy_work_file(std::FILE* out, const std::string& output_name) {
   write_all(out, kept, output_name);
 }
 
-void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_name) {
+void Workspace::copy_work_text_marked(std::FILE* out, const std::string& output_name) {
   RegionFilter filter(options_.bounds_checks);
-  LineReader reader(work_file_);
   std::string kept;
   int line = output_lines_;  // lines written so far
   bool directed = false;     // the last line written was a statement's "#line"
@@ -197,19 +139,22 @@ void Workspace::copy_work_file_marked(std::FILE* out, const std::string& output_
       pos = nl + 1;
     }
   };
-  std::string_view raw;
-  while (reader.next(raw)) {
-    std::string_view body(raw);
-    if (body.ends_with('\n')) body.remove_suffix(1);
-    if (body.starts_with("#merge ")) {
-      if (const std::string* slot = merge_text(body)) feed(*slot);
-    } else if (filter.keep(body)) {
-      feed(raw);
+  // Pieces of the work text hold whole lines.
+  for (std::string_view block : work_) {
+    for (size_t pos = 0; pos < block.size();) {
+      size_t nl = block.find('\n', pos);
+      size_t end = nl == std::string_view::npos ? block.size() : nl + 1;
+      std::string_view raw = block.substr(pos, end - pos), body = raw;
+      pos = end;
+      if (body.ends_with('\n')) body.remove_suffix(1);
+      if (body.starts_with("#merge ")) {
+        if (const std::string* slot = merge_text(body)) feed(*slot);
+      } else if (filter.keep(body)) {
+        feed(raw);
+      }
     }
-    if (kept.size() >= (1u << 18)) {
-      write_all(out, kept, output_name);
-      kept.clear();
-    }
+    write_all(out, kept, output_name);
+    kept.clear();
   }
   if (!partial.empty()) emit(partial, false);
   write_all(out, kept, output_name);
@@ -256,9 +201,7 @@ void Workspace::assemble(const std::string& output_name) {
     functions.swap(deferred);
     put_text('y', functions);
 
-    if (std::fflush(work_file_) != 0) fatal(strf("error writing to temporary file: %s", system_error_text(errno).c_str()));
-    std::rewind(work_file_);
-    file_ = out;
+    output_ = out;
     put_text('n', header_text);
     for (int d = 1; d <= max_dimensions_; ++d) {
       put_text('n', strf("\nstruct %s {", names_.meta_type(d).c_str()));
@@ -269,11 +212,11 @@ void Workspace::assemble(const std::string& output_name) {
       indent_out();
       put_text('y', "};\n");
     }
-    file_ = work_file_;
+    output_ = nullptr;
     if (options_.line_directives || options_.report_checks)
-      copy_work_file_marked(out, output_name);
+      copy_work_text_marked(out, output_name);
     else
-      copy_work_file(out, output_name);
+      copy_work_text(out, output_name);
   }
   if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
   if (!file.close()) output_write_failed(output_name);

@@ -12,9 +12,7 @@ namespace {
 const char source_name[] = "yc";
 
 [[noreturn]] void write_failed(const std::string& output_name) {
-  std::string why = system_error_text(errno);
-  if (output_name.empty()) fatal(strf("error writing to temporary file: %s", why.c_str()));
-  fatal(strf("error writing to file '%s': %s", output_name.c_str(), why.c_str()));
+  fatal(strf("error writing to file '%s': %s", output_name.c_str(), system_error_text(errno).c_str()));
 }
 
 }  // namespace
@@ -31,9 +29,9 @@ void Workspace::reset() {
   to_deferred = to_function_exit = to_fragment = false;
   merge_.clear();
   blocks_.clear();
-  work_file_ = nullptr;
+  work_.clear();
   output_name_.clear();
-  file_ = nullptr;
+  output_ = nullptr;
   indent_ = column_ = 0;
   quote_ = 0;
   backslashes_ = 0;
@@ -69,13 +67,17 @@ void Workspace::put_text(char newline_bgn, std::string_view text) {
 }
 
 void Workspace::write_file(std::string_view prefix, std::string_view text) {
-  if (!file_) file_ = work_file_;
-  YCC_CHECK(file_ != nullptr, source_name);
-  // Composed in memory, written with one call: the breaking looks at every
-  // byte, the stream need not.
-  std::string& out = line_buffer_;
-  out.assign(prefix);
-  out.reserve(prefix.size() + text.size() + text.size() / 32 + 8);
+  // Work text is composed in its last piece; output text in a buffer
+  // written with one call: the breaking looks at every byte, the stream
+  // need not.
+  if (!output_ && work_.empty()) {
+    work_.emplace_back();
+    work_.back().reserve(work_piece + work_piece / 4);
+  }
+  std::string& out = output_ ? line_buffer_ : work_.back();
+  if (output_) out.clear();
+  out.reserve(out.size() + prefix.size() + text.size() + text.size() / 32 + 8);
+  out.append(prefix);
   int column = column_, backslashes = backslashes_;
   char quote = quote_;
   for (size_t i = 0; i < text.size();) {
@@ -116,9 +118,36 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   column_ = column;
   backslashes_ = backslashes;
   quote_ = quote;
-  if (file_ != work_file_) output_lines_ += static_cast<int>(std::count(out.begin(), out.end(), '\n'));
-  if (!out.empty() && std::fwrite(out.data(), 1, out.size(), file_) != out.size())
-    write_failed(file_ == work_file_ ? std::string() : output_name_);
+  if (output_) {
+    output_lines_ += static_cast<int>(std::count(out.begin(), out.end(), '\n'));
+    if (!out.empty() && std::fwrite(out.data(), 1, out.size(), output_) != out.size()) write_failed(output_name_);
+  } else if (out.size() >= work_piece) {
+    next_work_piece();
+  }
+}
+
+void Workspace::next_work_piece() {
+  // Pieces hold whole lines: the unfinished last line moves on.
+  std::string& full = work_.back();
+  size_t nl = full.rfind('\n');
+  size_t cut = nl == std::string::npos ? full.size() : nl + 1;
+  std::string next;
+  next.reserve(std::max(work_piece + work_piece / 4, full.size() - cut));
+  next.append(full, cut);
+  full.resize(cut);
+  work_.push_back(std::move(next));
+}
+
+std::string Workspace::work_text() const {
+  std::string all;
+  for (const std::string& piece : work_) all += piece;
+  return all;
+}
+
+size_t Workspace::work_size() const {
+  size_t n = 0;
+  for (const std::string& piece : work_) n += piece.size();
+  return n;
 }
 
 void Workspace::indent_in() {
@@ -145,10 +174,10 @@ void Workspace::move_to_own(int slot) {
 
 void Workspace::write_marker(int slot) {
   if (diag_.errors > 0) return;
-  std::FILE* saved = file_;
-  file_ = work_file_;
+  std::FILE* saved = output_;
+  output_ = nullptr;
   write_file("", strf("\n#merge %d\n", slot));
-  file_ = saved;
+  output_ = saved;
 }
 
 void Workspace::start_output() {

@@ -1,9 +1,9 @@
 // The code workspace: the only way generated C text is produced. Text goes,
-// in source order, to a temporary work file; text that must stand earlier
-// than where it becomes known (globals, a function's locals and init code,
+// in source order, to the work text; text that must stand earlier than
+// where it becomes known (globals, a function's locals and init code,
 // resize-function locals) is collected in numbered merge slots, and the work
-// file carries "#merge N" marker lines where it belongs. At the end of a file
-// without errors the output C file is assembled from both.
+// text carries "#merge N" marker lines where it belongs. At the end of a
+// file without errors the output C file is assembled from both.
 #pragma once
 
 #include <cstdio>
@@ -38,8 +38,10 @@ class Workspace {
   // Set up once per run; /H is checked but reserves nothing: texts grow as needed.
   Workspace(const Options& options, Diagnostics& diag);
 
-  // Per file: the anonymous temporary work file that put_text writes to.
-  void attach_work_file(std::FILE* f) { work_file_ = f; }
+  // The work text written so far (what put_text wrote outside the other
+  // destinations), for tests, and its length.
+  std::string work_text() const;
+  size_t work_size() const;
   // After each file: every text emptied, counts 0, flags 'n'.
   void reset();
   // The file's generated-names prefix, used in the meta record type names.
@@ -53,10 +55,10 @@ class Workspace {
   int indentation() const { return indent_; }
   int column() const { return column_; }
 
-  // Destinations of put_text, tried in this order before the work file:
+  // Destinations of put_text, tried in this order before the work text:
   // the deferred-functions text, the function-exit text, and, inside a
   // function body, the code of the statement being translated (what
-  // `fragment_sink` gives; null there means the work file).
+  // `fragment_sink` gives; null there means the work text).
   bool to_deferred = false;
   bool to_function_exit = false;
   bool to_fragment = false;
@@ -128,14 +130,17 @@ class Workspace {
     int first_symbol;
     char opened;
   };
-  // Writes to the current file with the 72-column breaking.
+  // Writes to the work text, or while the header is written to the
+  // output, with the 72-column breaking.
   void write_file(std::string_view prefix, std::string_view text);
+  // Starts a new piece of the work text when the last is full.
+  void next_work_piece();
   void write_marker(int slot);
-  void copy_work_file(std::FILE* out, const std::string& output_name);
+  void copy_work_text(std::FILE* out, const std::string& output_name);
   // The copy for --line-directives and --report-checks: also numbers the
   // output lines, maps the lines outside statements back to the C file and
   // counts and drops "#check" lines.
-  void copy_work_file_marked(std::FILE* out, const std::string& output_name);
+  void copy_work_text_marked(std::FILE* out, const std::string& output_name);
   void move_to_own(int slot);
   // The text of the slot a "#merge N" line names; null when it has none.
   const std::string* merge_text(std::string_view marker) const;
@@ -143,8 +148,11 @@ class Workspace {
 
   const Options& options_;
   Diagnostics& diag_;
-  std::FILE* work_file_ = nullptr;
-  std::FILE* file_ = nullptr;  // where put_text writes: work file or, briefly, output
+  // The work text: whole lines in pieces of about `work_piece` bytes, so
+  // that it grows without copying what it holds.
+  static constexpr size_t work_piece = 1 << 18;
+  std::vector<std::string> work_;
+  std::FILE* output_ = nullptr;  // set while the header goes straight to the output
   std::string output_name_;    // set while the output file is written
   Names names_{"zz"};
   int indent_ = 0;
@@ -161,7 +169,7 @@ class Workspace {
   std::vector<Block> blocks_;
   int emitted_ = 0;
   int max_dimensions_ = 0;
-  int output_lines_ = 0;  // newlines written to the output before the work file
+  int output_lines_ = 0;  // newlines written to the output before the work text
   std::vector<FunctionChecks> checks_;
 };
 

@@ -18,25 +18,16 @@ namespace ycc::testing {
 
 class BodyRecorder : public FileActions {
  public:
-  BodyRecorder(const Options& o, Diagnostics& d, const TokenBuffer& t, Workspace& ws, std::FILE* f,
-               const std::string& prefix)
-      : FileActions(o, d, t, ws, prefix), ws_(ws), file_(f) {}
+  BodyRecorder(const Options& o, Diagnostics& d, const TokenBuffer& t, Workspace& ws, const std::string& prefix)
+      : FileActions(o, d, t, ws, prefix), ws_(ws) {}
 
   void open_function_body(const Token& lbrace, const FunctionLabels& labels) override {
     FileActions::open_function_body(lbrace, labels);
-    std::fflush(file_);
-    start_ = std::ftell(file_);
+    start_ = ws_.work_size();
     locals_at_open_ = ws_.wd_locals.size();
   }
   void close_function_body(const Token& rbrace) override {
-    std::fflush(file_);
-    long end = std::ftell(file_);
-    std::string text(static_cast<size_t>(end - start_), '\0');
-    std::fseek(file_, start_, SEEK_SET);
-    size_t got = std::fread(text.data(), 1, text.size(), file_);
-    text.resize(got);
-    std::fseek(file_, 0, SEEK_END);
-    bodies.push_back(text);
+    bodies.push_back(ws_.work_text().substr(std::min(start_, ws_.work_size())));
     locals.push_back(ws_.wd_locals.substr(std::min(locals_at_open_, ws_.wd_locals.size())));
     FileActions::close_function_body(rbrace);
   }
@@ -46,8 +37,7 @@ class BodyRecorder : public FileActions {
 
  private:
   Workspace& ws_;
-  std::FILE* file_;
-  long start_ = 0;
+  size_t start_ = 0;
   size_t locals_at_open_ = 0;
 };
 
@@ -63,15 +53,13 @@ struct TranslateRun {
   std::string run(const std::string& source, const std::string& prefix = "zz") {
     options.prefix = prefix;
     diag.begin_compile();
-    std::FILE* f = std::tmpfile();
     {
       Workspace ws(options, diag);
       ws.reset();
-      ws.attach_work_file(f);
       ws.set_prefix(prefix);
       TokenBuffer tokens = tokenize(source, diag.files(), diag.err());
       SyntaxErrors syntax(diag);
-      BodyRecorder t(options, diag, tokens, ws, f, prefix);
+      BodyRecorder t(options, diag, tokens, ws, prefix);
       try {
         parse_translation_unit(tokens.tokens, t, syntax);
       } catch (const CompileHalt&) {
@@ -81,7 +69,6 @@ struct TranslateRun {
       stack_left = t.translator().stack_size();
       diag.flush();
     }
-    std::fclose(f);
     return bodies.empty() ? std::string() : bodies.back();
   }
   std::string messages() const { return err.str(); }
