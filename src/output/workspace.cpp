@@ -76,6 +76,7 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   }
   std::string& out = output_ ? line_buffer_ : work_.back();
   if (output_) out.clear();
+  const size_t written_from = out.size();
   out.reserve(out.size() + prefix.size() + text.size() + text.size() / 32 + 8);
   out.append(prefix);
   int column = column_, backslashes = backslashes_;
@@ -122,15 +123,16 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
     output_lines_ += static_cast<int>(std::count(out.begin(), out.end(), '\n'));
     if (!out.empty() && std::fwrite(out.data(), 1, out.size(), output_) != out.size()) write_failed(output_name_);
   } else if (out.size() >= work_piece) {
-    next_work_piece();
+    // Pieces hold whole lines: a full piece is cut after the last newline
+    // this call wrote (looking no further back keeps a long line linear),
+    // and its unfinished last line moves on.
+    size_t nl = std::string_view(out).substr(written_from).rfind('\n');
+    if (nl != std::string_view::npos) next_work_piece(written_from + nl + 1);
   }
 }
 
-void Workspace::next_work_piece() {
-  // Pieces hold whole lines: the unfinished last line moves on.
+void Workspace::next_work_piece(size_t cut) {
   std::string& full = work_.back();
-  size_t nl = full.rfind('\n');
-  size_t cut = nl == std::string::npos ? full.size() : nl + 1;
   std::string next;
   next.reserve(std::max(work_piece + work_piece / 4, full.size() - cut));
   next.append(full, cut);

@@ -133,8 +133,8 @@ class Workspace {
   // Writes to the work text, or while the header is written to the
   // output, with the 72-column breaking.
   void write_file(std::string_view prefix, std::string_view text);
-  // Starts a new piece of the work text when the last is full.
-  void next_work_piece();
+  // Starts a new piece of the work text with the last piece's text from `cut` on.
+  void next_work_piece(size_t cut);
   void write_marker(int slot);
   void copy_work_text(std::FILE* out, const std::string& output_name);
   // The copy for --line-directives and --report-checks: also numbers the

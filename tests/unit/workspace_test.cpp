@@ -226,6 +226,18 @@ TEST(WorkspaceAssembly, MarkersAcrossWorkPieces) {
   EXPECT_EQ(f.body(), lines + "\nint g;\n" + std::string(1 << 19, 'w') + "\nkept\nZ\n\n");
 }
 
+// A line longer than a piece is never cut: what follows it on the same
+// line is text, not a marker.
+TEST(WorkspaceAssembly, LineLongerThanAPieceStaysWhole) {
+  Fixture f;
+  Workspace& ws = f.make();
+  // Many writes, the last of which passes the size of a piece (a quarter megabyte).
+  for (int i = 0; i < 262; ++i) ws.put_text('n', std::string(1000, 'x'));
+  ws.put_text('n', std::string(38000, 'x'));
+  ws.put_text('n', "##e\nO\n##f\nZ");
+  EXPECT_EQ(f.body(), std::string(300000, 'x') + "##e\nO\nZ\n\n");
+}
+
 // Text written with newline_bgn 'n' at indentation 0, and the work file after it.
 struct BreakCase {
   const char* name;
