@@ -55,22 +55,16 @@ const std::string* Workspace::merge_text(std::string_view marker) const {
   return slot.length() >= 1 ? slot.data : nullptr;
 }
 
-void Workspace::copy_work_text(std::FILE* out, const std::string& output_name) {
+template <class Take>
+void Workspace::resolve_work_text(Take take) {
   RegionFilter filter(options_.bounds_checks);
-  std::string kept;  // written out in large pieces
   for (std::string_view block : work_) {
     for (size_t pos = 0; pos < block.size();) {
       if (filter.idle()) {
         // Outside regions only lines that begin with '#' can be markers:
-        // the lines before the next one are written as they stand.
+        // the lines before the next one go out as they stand.
         size_t hash = next_hash_line(block, pos);
-        if (hash - pos >= (1u << 12)) {
-          write_all(out, kept, output_name);
-          kept.clear();
-          write_all(out, block.substr(pos, hash - pos), output_name);
-        } else {
-          kept.append(block.substr(pos, hash - pos));
-        }
+        if (hash > pos) take(block.substr(pos, hash - pos));
         pos = hash;
         if (pos == block.size()) break;
       }
@@ -81,21 +75,33 @@ void Workspace::copy_work_text(std::FILE* out, const std::string& output_name) {
       if (body.ends_with('\n')) body.remove_suffix(1);
       // Merge markers come first, so one inside a dropped part is still replaced.
       if (body.starts_with("#merge ")) {
-        if (const std::string* slot = merge_text(body)) kept += *slot;
+        if (const std::string* slot = merge_text(body)) take(*slot);
       } else if (filter.keep(body)) {
-        kept += line;
+        take(line);
       }
     }
+  }
+}
+
+void Workspace::copy_work_text(std::FILE* out, const std::string& output_name) {
+  std::string kept;  // short pieces gathered, written out in large ones
+  resolve_work_text([&](std::string_view piece) {
+    if (piece.size() >= (1u << 12)) {
+      write_all(out, kept, output_name);
+      kept.clear();
+      write_all(out, piece, output_name);
+      return;
+    }
+    kept += piece;
     if (kept.size() >= (1u << 16)) {
       write_all(out, kept, output_name);
       kept.clear();
     }
-  }
+  });
   write_all(out, kept, output_name);
 }
 
 void Workspace::copy_work_text_marked(std::FILE* out, const std::string& output_name) {
-  RegionFilter filter(options_.bounds_checks);
   std::string kept;
   int line = output_lines_;  // lines written so far
   bool directed = false;     // the last line written was a statement's "#line"
@@ -139,23 +145,13 @@ void Workspace::copy_work_text_marked(std::FILE* out, const std::string& output_
       pos = nl + 1;
     }
   };
-  // Pieces of the work text hold whole lines.
-  for (std::string_view block : work_) {
-    for (size_t pos = 0; pos < block.size();) {
-      size_t nl = block.find('\n', pos);
-      size_t end = nl == std::string_view::npos ? block.size() : nl + 1;
-      std::string_view raw = block.substr(pos, end - pos), body = raw;
-      pos = end;
-      if (body.ends_with('\n')) body.remove_suffix(1);
-      if (body.starts_with("#merge ")) {
-        if (const std::string* slot = merge_text(body)) feed(*slot);
-      } else if (filter.keep(body)) {
-        feed(raw);
-      }
+  resolve_work_text([&](std::string_view piece) {
+    feed(piece);
+    if (kept.size() >= (1u << 16)) {
+      write_all(out, kept, output_name);
+      kept.clear();
     }
-    write_all(out, kept, output_name);
-    kept.clear();
-  }
+  });
   if (!partial.empty()) emit(partial, false);
   write_all(out, kept, output_name);
 }

@@ -136,6 +136,11 @@ class Workspace {
   // Starts a new piece of the work text with the last piece's text from `cut` on.
   void next_work_piece(size_t cut);
   void write_marker(int slot);
+  // Walks the work text, handing `take` each text that reaches the output in
+  // order: runs of kept lines, and the texts of merge slots in place of
+  // their markers ("##" regions resolved).
+  template <class Take>
+  void resolve_work_text(Take take);
   void copy_work_text(std::FILE* out, const std::string& output_name);
   // The copy for --line-directives and --report-checks: also numbers the
   // output lines, maps the lines outside statements back to the C file and
