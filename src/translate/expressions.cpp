@@ -1,6 +1,7 @@
 // Expressions: literals, identifier references and every operator, each
 // checked against the classes of its operands. && || and ! become jumps to
 // generated labels; the conditional operator becomes jumps and a temporary.
+#include <algorithm>
 #include <cerrno>
 #include <cfloat>
 #include <cmath>
@@ -37,7 +38,16 @@ std::string_view without_suffix(std::string_view text, std::string& suffix) {
 void Translator::constant(const Token& t) {
   Operand& e = push_operand(t.line);
   e.literal = true;
-  std::string text(t.text());
+  std::string_view view = t.text();
+  if (t.tok == T_DECIMALINT && !view.empty() && view.size() <= 9 &&
+      std::all_of(view.begin(), view.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+    // The common small decimal: an int, its leading zeros dropped.
+    size_t nz = view.find_first_not_of('0');
+    e.value = nz == std::string_view::npos ? std::string_view("0") : view.substr(nz);
+    e.type_bits = 4;
+    return;
+  }
+  std::string text(view);
   switch (t.tok) {
     case T_DECIMALINT:
     case T_HEXADECIMAL: {

@@ -49,6 +49,15 @@ class Code {
     text_.append(s);
     return *this;
   }
+  Code& operator+=(const char* s) { return *this += std::string_view(s); }
+  // The same, taking the text's block when this code is still empty.
+  Code& operator+=(std::string&& s) {
+    if (text_.empty() && s.capacity() >= text_.capacity()) {
+      text_ = std::move(s);
+      return *this;
+    }
+    return *this += std::string_view(s);
+  }
   // Another operand's code, its markers kept.
   Code& operator+=(Code&& other);
   void prepend(std::string_view s);

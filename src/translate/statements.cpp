@@ -90,7 +90,7 @@ void Translator::end_statement(const Token& last) {
   if (stack_size() == 0)
     ws_.put_text('n', text);
   else
-    code(top_index()) += text;
+    code(top_index()) += std::move(text);
 }
 
 void Translator::mark_lines(Code& c, int line_code) {
