@@ -68,8 +68,18 @@ inline bool same_text(const char* a, const char* b, size_t n) {
   return true;
 }
 
+// The longest keyword of the token table.
+constexpr size_t longest_keyword = [] {
+  size_t longest = 0;
+#define TOKEN(number, name, spelling)                                                \
+  if (!std::string_view(spelling).empty() && is_ident_start(spelling[0]))           \
+    longest = std::max(longest, std::string_view(spelling).size());
+#include "front/tokens.def"
+#undef TOKEN
+  return longest;
+}();
+
 struct Spellings {
-  static constexpr size_t longest_keyword = 16;
   std::vector<Spelling> punctuators[128];
   std::vector<Spelling> keywords[26][longest_keyword + 1];
   Spellings() {
