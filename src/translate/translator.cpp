@@ -40,10 +40,15 @@ Operand& Translator::push_operand(int line) {
 
 Operand Translator::pop_operand() { return std::move(stack_[--depth_]); }
 
-Code Translator::pop_code() { return std::move(stack_[--depth_].code); }
+// A dropped slot lets its reference go at once, so the pool can reuse it.
+Code Translator::pop_code() {
+  Operand& e = stack_[--depth_];
+  e.ref.reset();
+  return std::move(e.code);
+}
 
 void Translator::drop_operands(int n) {
-  depth_ -= std::min(depth_, static_cast<size_t>(std::max(n, 0)));
+  for (size_t k = std::min(depth_, static_cast<size_t>(std::max(n, 0))); k > 0; --k) stack_[--depth_].ref.reset();
 }
 
 int Translator::frame_floor() const { return fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0; }
