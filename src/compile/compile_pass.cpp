@@ -14,7 +14,7 @@ namespace ycc {
 
 namespace {
 
-// Closes a C stream on every way out.
+// Closes a C stream on every way out; a closed tmpfile vanishes.
 struct StreamCloser {
   std::FILE* f;
   ~StreamCloser() {
@@ -65,6 +65,12 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
                              const std::string& source, const std::string& prefix_arg, std::string* text) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
+  // The pass takes its anonymous work file first and stops when the host
+  // has none to give, as it always has. The work text itself is kept in
+  // memory, where it is faster; the file stays empty and vanishes on close.
+  StreamCloser work{std::tmpfile()};
+  if (!work.f)
+    fatal(strf("unable to create temporary work file: %s", system_error_text(errno).c_str()));
   diag.begin_compile();
   if (!workspace_) workspace_ = std::make_unique<Workspace>(options, diag);
   Workspace& ws = *workspace_;
