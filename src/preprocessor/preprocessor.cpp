@@ -229,7 +229,7 @@ void Preprocessor::run() {
 }
 
 void Preprocessor::ordinary_token(const Token& tok) {
-  if (tok.kind == Tok::ident) {
+  if (tok.kind == Tok::ident && table_.may_define(tok.text)) {
     Macro* m = table_.find(tok.text);
     if (m && !m->expanding) {
       switch (m->kind) {
