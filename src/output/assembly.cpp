@@ -2,7 +2,6 @@
 // text with merge markers replaced by their slots and "##" regions resolved.
 #include <cerrno>
 #include <cstdlib>
-#include <memory>
 
 #include "common/output_file.h"
 #include "common/text.h"
