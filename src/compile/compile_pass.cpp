@@ -65,9 +65,9 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
                              const std::string& source, const std::string& prefix_arg, std::string* text) {
   const std::string prefix = prefix_arg.empty() ? std::string("zz") : prefix_arg;
 
-  // The pass takes its anonymous work file first and stops when the host
-  // has none to give, as it always has. The work text itself is kept in
-  // memory, where it is faster; the file stays empty and vanishes on close.
+  // The anonymous work file: the work text is kept in memory, where it is
+  // faster, and goes to this file only past a bound, so memory stays
+  // bounded for large outputs.
   StreamCloser work{std::tmpfile()};
   if (!work.f)
     fatal(strf("unable to create temporary work file: %s", system_error_text(errno).c_str()));
@@ -75,6 +75,7 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
   if (!workspace_) workspace_ = std::make_unique<Workspace>(options, diag);
   Workspace& ws = *workspace_;
   ws.reset();
+  ws.attach_work_file(work.f);
   ws.set_prefix(prefix);
 
   std::string read;

@@ -18,6 +18,10 @@ const char header_text[] =
   fatal(strf("error writing to file '%s': %s", name.c_str(), system_error_text(errno).c_str()));
 }
 
+[[noreturn]] void write_failed_temporary() {
+  fatal(strf("error writing to temporary file: %s", system_error_text(errno).c_str()));
+}
+
 [[noreturn]] void output_open_failed(const std::string& name) {
   fatal(strf("unable to open file '%s' for output: %s", name.c_str(), system_error_text(errno).c_str()));
 }
@@ -55,9 +59,47 @@ const std::string* Workspace::merge_text(std::string_view marker) const {
 }
 
 template <class Take>
+void Workspace::read_spilled(Take take) {
+  if (work_spilled_ == 0) return;
+  if (std::fflush(work_file_) != 0) write_failed_temporary();
+  std::rewind(work_file_);
+  // Read in pieces; each block handed over ends at the last newline read.
+  constexpr size_t chunk = 1 << 18;
+  std::string buffer;
+  for (size_t left = work_spilled_; left > 0;) {
+    size_t kept = buffer.size();
+    size_t want = std::min(chunk, left);
+    buffer.resize(kept + want);
+    size_t got = std::fread(buffer.data() + kept, 1, want, work_file_);
+    if (got < want) fatal(strf("error reading temporary file: %s", system_error_text(errno).c_str()));
+    left -= got;
+    buffer.resize(kept + got);
+    size_t end = buffer.size();
+    if (left > 0) {
+      // Only the part just read is searched: a long line stays linear.
+      size_t nl = std::string_view(buffer).substr(kept).rfind('\n');
+      end = nl == std::string_view::npos ? 0 : kept + nl + 1;
+    }
+    if (end > 0) {
+      take(std::string_view(buffer).substr(0, end));
+      buffer.erase(0, end);
+    }
+  }
+  // Later writes, if any, go after the text read.
+  std::fseek(work_file_, 0, SEEK_END);
+}
+
+std::string Workspace::work_text() {
+  std::string all;
+  read_spilled([&](std::string_view block) { all += block; });
+  for (const std::string& piece : work_) all += piece;
+  return all;
+}
+
+template <class Take>
 void Workspace::resolve_work_text(Take take) {
   RegionFilter filter(options_.bounds_checks);
-  for (std::string_view block : work_) {
+  auto resolve = [&](std::string_view block) {
     for (size_t pos = 0; pos < block.size();) {
       if (filter.idle()) {
         // Outside regions only lines that begin with '#' can be markers:
@@ -79,7 +121,10 @@ void Workspace::resolve_work_text(Take take) {
         take(line);
       }
     }
-  }
+  };
+  // The work file's text comes first; every block holds whole lines.
+  read_spilled(resolve);
+  for (std::string_view block : work_) resolve(block);
 }
 
 void Workspace::copy_work_text(std::FILE* out, const std::string& output_name) {

@@ -12,7 +12,9 @@ namespace {
 const char source_name[] = "yc";
 
 [[noreturn]] void write_failed(const std::string& output_name) {
-  fatal(strf("error writing to file '%s': %s", output_name.c_str(), system_error_text(errno).c_str()));
+  std::string why = system_error_text(errno);
+  if (output_name.empty()) fatal(strf("error writing to temporary file: %s", why.c_str()));
+  fatal(strf("error writing to file '%s': %s", output_name.c_str(), why.c_str()));
 }
 
 }  // namespace
@@ -30,6 +32,9 @@ void Workspace::reset() {
   merge_.clear();
   blocks_.clear();
   work_.clear();
+  work_held_ = work_spilled_ = 0;
+  work_file_ = nullptr;
+  work_memory_ = default_work_memory;
   output_name_.clear();
   output_ = nullptr;
   indent_ = column_ = 0;
@@ -137,17 +142,23 @@ void Workspace::next_work_piece(size_t cut) {
   next.reserve(std::max(work_piece + work_piece / 4, full.size() - cut));
   next.append(full, cut);
   full.resize(cut);
+  work_held_ += full.size();
+  if (work_file_ && work_held_ >= work_memory_) {
+    // Memory stays bounded: the finished pieces, in order, go to the work
+    // file, whose text comes before what memory still holds.
+    for (std::string& piece : work_) {
+      if (!piece.empty() && std::fwrite(piece.data(), 1, piece.size(), work_file_) != piece.size())
+        write_failed(std::string());
+      work_spilled_ += piece.size();
+    }
+    work_.clear();
+    work_held_ = 0;
+  }
   work_.push_back(std::move(next));
 }
 
-std::string Workspace::work_text() const {
-  std::string all;
-  for (const std::string& piece : work_) all += piece;
-  return all;
-}
-
 size_t Workspace::work_size() const {
-  size_t n = 0;
+  size_t n = work_spilled_;
   for (const std::string& piece : work_) n += piece.size();
   return n;
 }

@@ -38,9 +38,16 @@ class Workspace {
   // Set up once per run; /H is checked but reserves nothing: texts grow as needed.
   Workspace(const Options& options, Diagnostics& diag);
 
+  // Per file: the anonymous temporary work file, where the work text goes
+  // once more than `work_memory` bytes of it are held in memory.
+  void attach_work_file(std::FILE* f, size_t work_memory = default_work_memory) {
+    work_file_ = f;
+    work_memory_ = work_memory;
+  }
+  static constexpr size_t default_work_memory = size_t{16} << 20;
   // The work text written so far (what put_text wrote outside the other
   // destinations), for tests, and its length.
-  std::string work_text() const;
+  std::string work_text();
   size_t work_size() const;
   // After each file: every text emptied, counts 0, flags 'n'.
   void reset();
@@ -133,8 +140,12 @@ class Workspace {
   // Writes to the work text, or while the header is written to the
   // output, with the 72-column breaking.
   void write_file(std::string_view prefix, std::string_view text);
-  // Starts a new piece of the work text with the last piece's text from `cut` on.
+  // Starts a new piece of the work text with the last piece's text from
+  // `cut` on; past the memory bound the finished pieces go to the work file.
   void next_work_piece(size_t cut);
+  // Hands each block of whole lines of the work file's text to `take`.
+  template <class Take>
+  void read_spilled(Take take);
   void write_marker(int slot);
   // Walks the work text, handing `take` each text that reaches the output in
   // order: runs of kept lines, and the texts of merge slots in place of
@@ -157,6 +168,10 @@ class Workspace {
   // that it grows without copying what it holds.
   static constexpr size_t work_piece = 1 << 18;
   std::vector<std::string> work_;
+  size_t work_held_ = 0;     // bytes of the finished pieces in memory
+  std::FILE* work_file_ = nullptr;
+  size_t work_memory_ = default_work_memory;
+  size_t work_spilled_ = 0;  // bytes of work text in the work file, which come first
   std::FILE* output_ = nullptr;  // set while the header goes straight to the output
   std::string output_name_;    // set while the output file is written
   Names names_{"zz"};

@@ -214,16 +214,27 @@ std::string repeat(const std::string& s, int n) {
 // The work text is kept in pieces of whole lines: a line that one write
 // leaves unfinished when its piece fills (here a marker) moves on whole, and
 // regions run on across pieces.
+// Past its memory bound (here every finished piece) the work text goes to
+// the work file: the result is the same either way.
 TEST(WorkspaceAssembly, MarkersAcrossWorkPieces) {
-  Fixture f;
-  Workspace& ws = f.make();
-  const std::string lines = "\n" + std::string(1 << 20, 'p');
-  ws.put_text('n', lines + "\n##");
-  ws.put_text('n', "e\nO\n##f");
-  ws.start_output();
-  ws.globals += "int g;\n";
-  ws.put_text('n', std::string(1 << 19, 'w') + "\n##g\nkept\n##f\nZ");
-  EXPECT_EQ(f.body(), lines + "\nint g;\n" + std::string(1 << 19, 'w') + "\nkept\nZ\n\n");
+  for (bool spill : {false, true}) {
+    Fixture f;
+    Workspace& ws = f.make();
+    std::FILE* file = std::tmpfile();
+    ASSERT_NE(file, nullptr);
+    if (spill) ws.attach_work_file(file, 1);
+    const std::string lines = "\n" + std::string(1 << 20, 'p');
+    ws.put_text('n', lines + "\n##");
+    ws.put_text('n', "e\nO\n##f");
+    ws.start_output();
+    ws.globals += "int g;\n";
+    ws.put_text('n', std::string(1 << 19, 'w') + "\n##g\nkept\n##f\nZ");
+    EXPECT_EQ(f.work_text(), lines + "\n##e\nO\n##f\n#merge 0\n" + std::string(1 << 19, 'w') +
+                                 "\n##g\nkept\n##f\nZ")
+        << spill;
+    EXPECT_EQ(f.body(), lines + "\nint g;\n" + std::string(1 << 19, 'w') + "\nkept\nZ\n\n") << spill;
+    std::fclose(file);
+  }
 }
 
 // A line longer than a piece is never cut: what follows it on the same
