@@ -14,21 +14,13 @@ namespace {
 const char header_text[] =
     "\n#define FALSE 0\n#define TRUE 1\n#include <stdio.h>\n#include <stdlib.h>\n#include <string.h>";
 
-[[noreturn]] void output_write_failed(const std::string& name) {
-  fatal(strf("error writing to file '%s': %s", name.c_str(), system_error_text(errno).c_str()));
-}
-
-[[noreturn]] void write_failed_temporary() {
-  fatal(strf("error writing to temporary file: %s", system_error_text(errno).c_str()));
-}
-
 [[noreturn]] void output_open_failed(const std::string& name) {
   fatal(strf("unable to open file '%s' for output: %s", name.c_str(), system_error_text(errno).c_str()));
 }
 
 void write_all(std::FILE* out, std::string_view text, const std::string& name) {
   if (!text.empty() && std::fwrite(text.data(), 1, text.size(), out) != text.size())
-    output_write_failed(name);
+    write_failed(name);
 }
 
 // The first line at or after `pos` (a line start) that begins with '#', or
@@ -61,7 +53,7 @@ const std::string* Workspace::merge_text(std::string_view marker) const {
 template <class Take>
 void Workspace::read_spilled(Take take) {
   if (work_spilled_ == 0) return;
-  if (std::fflush(work_file_) != 0) write_failed_temporary();
+  if (std::fflush(work_file_) != 0) write_failed(std::string());
   std::rewind(work_file_);
   // Read in pieces; each block handed over ends at the last newline read.
   constexpr size_t chunk = 1 << 18;
@@ -258,8 +250,8 @@ void Workspace::assemble(const std::string& output_name) {
     else
       copy_work_text(out, output_name);
   }
-  if (std::fputc('\n', out) == EOF) output_write_failed(output_name);
-  if (!file.close()) output_write_failed(output_name);
+  if (std::fputc('\n', out) == EOF) write_failed(output_name);
+  if (!file.close()) write_failed(output_name);
   // Putting the file in place fails as its opening would, e.g. on a directory.
   if (!file.commit()) output_open_failed(output_name);
   output_name_.clear();

@@ -11,13 +11,13 @@ namespace {
 
 const char source_name[] = "yc";
 
-[[noreturn]] void write_failed(const std::string& output_name) {
+}  // namespace
+
+void write_failed(const std::string& output_name) {
   std::string why = system_error_text(errno);
   if (output_name.empty()) fatal(strf("error writing to temporary file: %s", why.c_str()));
   fatal(strf("error writing to file '%s': %s", output_name.c_str(), why.c_str()));
 }
-
-}  // namespace
 
 Workspace::Workspace(const Options& options, Diagnostics& diag) : options_(options), diag_(diag) {
   int code_workspace_halfmegs = options.halfmegs;

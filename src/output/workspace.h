@@ -19,6 +19,10 @@
 
 namespace ycc {
 
+// A failed write ends the run: to the output file `output_name`, or with
+// an empty name to the temporary work file.
+[[noreturn]] void write_failed(const std::string& output_name);
+
 // A merge slot: its text is one of the workspace's slot buffers while that is
 // still being filled, later a heap copy of its own.
 struct MergeSlot {
