@@ -41,7 +41,7 @@ for k in "$@"; do
     d=$work/$k/$form
     mkdir -p "$d/y"
     forms=()
-    [ "$form" = faster ] && forms=(--noreturn --wide-subscripts --direct-calls)
+    [ "$form" = faster ] && forms=(--noreturn --wide-subscripts --direct-calls --versioned-loops)
     if ! "$ycc" "${forms[@]}" /I "$root/runtime" /O "$d/y" "$here/$k.yc" > "$d/ycc.log" 2>&1; then
       cat "$d/ycc.log"
       echo "FAIL $k ($form): ycc refused the kernel"

@@ -28,6 +28,7 @@ struct Options {
   bool noreturn_reports = false;      // --noreturn: the bounds report never returns
   bool wide_subscripts = false;       // --wide-subscripts: element offsets in size_t
   bool direct_calls = false;          // --direct-calls: returns by argument, exception as value
+  bool versioned_loops = false;       // --versioned-loops: simple loops also without checks
   // For editors, debuggers and users who weigh the checks.
   bool gcc_diagnostics = false;       // --diagnostics=gcc: one "file:line: error: text" line each
   bool line_directives = false;       // --line-directives: #line before each statement's C lines

@@ -89,7 +89,7 @@ class FileActions : public Actions {
   void while_end(const Token& t) override { tr_.while_end(t); }
   void do_start(const Token& t) override { tr_.do_start(t); }
   void do_end(const Token& t) override { tr_.do_end(t); }
-  void for_start(bool i, bool c, bool s, const Token& t) override { tr_.for_start(i, c, s, t); }
+  void for_start(const Token& k, bool i, bool c, bool s, const Token& t) override { tr_.for_start(k, i, c, s, t); }
   void for_end(const Token& t) override { tr_.for_end(t); }
   void goto_stmt(const Token& t) override { tr_.goto_stmt(t); }
   void continue_stmt(const Token& t) override { tr_.continue_stmt(t); }

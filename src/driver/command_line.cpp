@@ -164,7 +164,7 @@ bool extra_option(const std::string& word, Options& options) {
       {"--diagnostics=gcc", &Options::gcc_diagnostics}, {"--line-directives", &Options::line_directives},
       {"--report-checks", &Options::report_checks},   {"--depfile", &Options::depfile},
       {"--quiet", &Options::quiet},                   {"--run", &Options::run},
-      {"--direct-calls", &Options::direct_calls},
+      {"--direct-calls", &Options::direct_calls},     {"--versioned-loops", &Options::versioned_loops},
   };
   for (const auto& f : flags) {
     if (word == f.word) {

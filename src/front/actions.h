@@ -164,7 +164,8 @@ class Actions {
   virtual void do_start(const Token& /*do*/) {}
   virtual void do_end(const Token& /*rparen*/) {}
   // The heads given are on the expression stack in order.
-  virtual void for_start(bool /*has_init*/, bool /*has_condition*/, bool /*has_step*/, const Token& /*rparen*/) {}
+  virtual void for_start(const Token& /*keyword*/, bool /*has_init*/, bool /*has_condition*/,
+                         bool /*has_step*/, const Token& /*rparen*/) {}
   virtual void for_end(const Token& /*last*/) {}
   virtual void goto_stmt(const Token& /*label*/) {}
   virtual void continue_stmt(const Token&) {}

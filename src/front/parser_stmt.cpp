@@ -254,7 +254,7 @@ void Parser::do_statement() {
 
 // for-statement = `for` "(" [ expression ] ";" [ expression ] ";" [ expression ] ")" statement
 void Parser::for_statement() {
-  advance();
+  const Token& keyword = advance();
   const TokSet follow = follow_statement | TokSet{T_RPARENTHESIS};
   expect(T_LPARENTHESIS, follow_expression | follow);
   bool has_init = !at(T_SEMICOLON);
@@ -267,7 +267,7 @@ void Parser::for_statement() {
   if (has_step) expression();
   const Token& rparen = cur();
   expect(T_RPARENTHESIS, follow_statement);
-  act_.for_start(has_init, has_condition, has_step, rparen);
+  act_.for_start(keyword, has_init, has_condition, has_step, rparen);
   statement();
   act_.for_end(last());
 }

@@ -42,6 +42,18 @@ struct FunctionContext {
   // The heads a for statement has: bit 1 init, 2 condition, 4 step.
   std::vector<int> for_heads;
 
+  // --versioned-loops, per open for statement: whether it is written twice,
+  // the test that picks the copy without checks, and that copy's
+  // statements, collected as the body is translated.
+  struct LoopVersion {
+    bool candidate = false;
+    int statements = 0;  // the assignments the body holds
+    int collected = 0;
+    std::string guard;
+    std::string fast;
+  };
+  std::vector<LoopVersion> versions;
+
   // The label of each labelled statement being read, composed when it is left.
   std::vector<std::string> labels_pending;
 

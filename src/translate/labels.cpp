@@ -130,7 +130,10 @@ void Translator::finish_expression(int i, bool as_statement) {
     operand(i).value.clear();
     return;
   }
-  if (as_statement && e.emit && !e.value.empty()) code(i) += "\n" + e.value + ";";
+  if (as_statement && e.emit && !e.value.empty()) {
+    if (options_.versioned_loops && !fn().versions.empty()) collect_unchecked(e.value);
+    code(i) += "\n" + e.value + ";";
+  }
   e.value.clear();
   e.emit = false;
 }

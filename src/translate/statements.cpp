@@ -201,7 +201,8 @@ void Translator::do_end(const Token& rparen) {
               rparen.line);
 }
 
-void Translator::for_start(bool has_init, bool has_condition, bool has_step, const Token& rparen) {
+void Translator::for_start(const Token& keyword, bool has_init, bool has_condition, bool has_step,
+                           const Token& rparen) {
   int heads = (has_init ? 1 : 0) + (has_condition ? 1 : 0) + (has_step ? 1 : 0);
   ensure_operands(heads, rparen.line);
   int i = stack_size() - heads;
@@ -211,6 +212,7 @@ void Translator::for_start(bool has_init, bool has_condition, bool has_step, con
   std::string f = condition >= 0 ? control_on(condition) : false_name(next_label());
   fn().loops.push_back({'p', generated("cont", ++cont_counter_), f});
   fn().for_heads.push_back((has_init ? 1 : 0) | (has_condition ? 2 : 0) | (has_step ? 4 : 0));
+  if (options_.versioned_loops) fn().versions.push_back(plan_loop_version(keyword));
 }
 
 void Translator::for_end(const Token& last) {
@@ -225,9 +227,14 @@ void Translator::for_end(const Token& last) {
   if (heads & 4) step = pop_text();
   if (heads & 2) condition = pop_text();
   if (heads & 1) init = pop_text();
+  std::string twice;
+  if (options_.versioned_loops && !fn().versions.empty()) {
+    twice = versioned_loop(fn().versions.back(), condition, body, step);
+    fn().versions.pop_back();
+  }
   std::string top = generated("cont", ++cont_counter_);
   replace_top(0,
-              init + "\n" + top + ":" + condition + body + "\n" + loop.cont + ":" + step +
+              init + twice + "\n" + top + ":" + condition + body + "\n" + loop.cont + ":" + step +
                   strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
               last.line);
 }

@@ -75,7 +75,7 @@ class Translator {
   void while_end(const Token& last);
   void do_start(const Token& keyword);
   void do_end(const Token& rparen);
-  void for_start(bool has_init, bool has_condition, bool has_step, const Token& rparen);
+  void for_start(const Token& keyword, bool has_init, bool has_condition, bool has_step, const Token& rparen);
   void for_end(const Token& last);
   void goto_stmt(const Token& label);
   void continue_stmt(const Token& keyword);
@@ -244,6 +244,16 @@ class Translator {
   std::string return_temporary(int ret);
   std::string meta_temporary(int dimensions);
 
+  // ---- Loops written twice (loop_versions.cpp) ----
+  // Whether the for loop at `keyword` can have a copy without checks, and
+  // the test that picks it.
+  FunctionContext::LoopVersion plan_loop_version(const Token& keyword);
+  // A statement of the innermost loop's body, as the copy holds it.
+  void collect_unchecked(const std::string& value);
+  // The test and the copy that go before the checked loop, or empty.
+  std::string versioned_loop(const FunctionContext::LoopVersion& plan, const std::string& condition,
+                             const std::string& body, const std::string& step);
+
   // ---- Statements (statements.cpp) ----
   int unlabelled_frames() const;
   // --line-directives: a "#line" directive before every C line of a
@@ -275,6 +285,7 @@ class Translator {
   int label_counter_ = 0;  // false and true labels
   std::map<int, int> label_alias_;
   int cont_counter_ = 0;
+  int version_counter_ = 0;
   int skip_counter_ = 0;
   int string_counter_ = 0;
 };

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Every golden case that runs its program is translated once more with all
 # the faster forms of the generated C (--noreturn --wide-subscripts
-# --direct-calls), built with gcc and run as the runner runs it: the program
-# must print run.stdout and run.stderr and end with run.status, exactly as
-# the default translation does.
+# --direct-calls --versioned-loops), built with gcc and run as the runner
+# runs it: the program must print run.stdout and run.stderr and end with
+# run.status, exactly as the default translation does.
 # usage: faster_forms.sh YCC CASES_DIR RUNTIME_DIR VARIANTS_DIR
 set -uo pipefail
 source "$(dirname "$0")/run_case.sh"
@@ -20,7 +20,7 @@ for marker in "$cases"/*/*/run; do
   rm -rf "$work/case" && mkdir "$work/case" && cp -r "$dir"/. "$work/case"/
   read -r -a words < "$dir/args"
   for i in "${!words[@]}"; do [ "${words[$i]}" = @RUNTIME@ ] && words[$i]=$runtime; done
-  if ! (cd "$work/case" && "$ycc" --noreturn --wide-subscripts --direct-calls "${words[@]}" > ycc.log 2>&1); then
+  if ! (cd "$work/case" && "$ycc" --noreturn --wide-subscripts --direct-calls --versioned-loops "${words[@]}" > ycc.log 2>&1); then
     echo "FAIL $name: ycc refused the faster forms"; failed=$((failed + 1)); continue
   fi
   c_file=$(tr -d ' \n' < "$dir/run")

@@ -155,7 +155,7 @@ void TraceActions::while_start(const Token&) { line("while_start"); }
 void TraceActions::while_end(const Token&) { line("while_end"); }
 void TraceActions::do_start(const Token&) { line("do_start"); }
 void TraceActions::do_end(const Token&) { line("do_end"); }
-void TraceActions::for_start(bool i, bool c, bool s, const Token&) {
+void TraceActions::for_start(const Token&, bool i, bool c, bool s, const Token&) {
   line("for_start", {i ? "init" : "-", c ? "condition" : "-", s ? "step" : "-"});
 }
 void TraceActions::for_end(const Token&) { line("for_end"); }

@@ -67,7 +67,7 @@ class TraceActions : public Actions {
   void while_end(const Token&) override;
   void do_start(const Token&) override;
   void do_end(const Token&) override;
-  void for_start(bool, bool, bool, const Token&) override;
+  void for_start(const Token&, bool, bool, bool, const Token&) override;
   void for_end(const Token&) override;
   void goto_stmt(const Token&) override;
   void continue_stmt(const Token&) override;

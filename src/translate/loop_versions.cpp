@@ -1,0 +1,365 @@
+// --versioned-loops: an innermost for loop that steps an int variable by one
+// and whose body only assigns arithmetic values to scalars and to elements
+// of spaces is written twice. Every subscript in such a body is the loop
+// variable plus or minus invariant terms, or invariant: a linear function
+// of the loop variable. So when every subscript lies in range on the first
+// pass and on the last, it lies in range on every pass between, no element
+// is written past a limit, and nothing can grow. A test before the loop
+// decides that from the space records, once per entry: the copy without
+// checks runs when it holds, the checked loop as always otherwise, so every
+// report and every growth happens exactly where it did.
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "common/c_names.h"
+#include "common/text.h"
+#include "decl/type_keywords.h"
+#include "translate/translator.h"
+
+namespace ycc {
+
+namespace {
+
+// Token indices [begin, end).
+struct Span {
+  size_t begin = 0, end = 0;
+};
+
+struct SpaceUse {
+  int sym = 0;
+  std::vector<Span> subs;
+};
+
+// Reads the loop's tokens and says whether the loop has the shape; it
+// writes nothing and reports nothing: anything unexpected means "no".
+class LoopShape {
+ public:
+  LoopShape(const std::vector<Token>& toks, const SymbolTable& symbols) : toks_(toks), symbols_(symbols) {}
+
+  // `at` is the index of the `for` keyword.
+  bool read(size_t at);
+
+  int var = 0;         // the loop variable
+  Span bound;          // the condition's right side
+  bool inclusive = false;  // `<=` rather than `<`
+  int statements = 0;  // assignments in the body
+  std::vector<SpaceUse> uses;
+
+ private:
+  int tok(size_t i) const { return i < toks_.size() ? static_cast<int>(toks_[i].tok) : T_Eof; }
+  bool at(int t) const { return tok(p_) == t; }
+  int lookup(size_t i) const { return symbols_.find_other('o', toks_[i].text(), 0); }
+  // A variable of an arithmetic type (neither a structure nor a fun type).
+  int arithmetic_variable(size_t i) const;
+  int int_variable(size_t i) const;
+  bool linear(int stop, Span& s);
+  bool subscripts(int sym);
+  bool value();
+  bool assignment();
+
+  const std::vector<Token>& toks_;
+  const SymbolTable& symbols_;
+  size_t p_ = 0;
+  std::vector<int> written_;    // scalars the body assigns
+  std::vector<int> invariant_;  // variables the bound and the subscripts read
+};
+
+int LoopShape::arithmetic_variable(size_t i) const {
+  if (tok(i) != T_IDENTIFIER) return 0;
+  int s = lookup(i);
+  if (!s || symbols_[s].name_is != 'v' || symbols_.resolve_type(symbols_[s].type_sym) != 0) return 0;
+  return s;
+}
+
+int LoopShape::int_variable(size_t i) const {
+  int s = arithmetic_variable(i);
+  if (!s || symbols_[s].dim_count() != 0) return 0;
+  int bits = symbols_.type_bits_of(s);
+  return bits == TB_INT || bits == (TB_INT | TB_SIGNED) || bits == TB_SIGNED ? s : 0;
+}
+
+// Int variables, small decimal constants, + and - (also unary) and
+// parentheses, up to `stop` outside them; the loop variable at most once.
+bool LoopShape::linear(int stop, Span& s) {
+  s.begin = p_;
+  bool operand = true;
+  int depth = 0;
+  int var_uses = 0;
+  for (;; ++p_) {
+    int t = tok(p_);
+    if (operand) {
+      if (t == T_IDENTIFIER) {
+        int v = int_variable(p_);
+        if (!v) return false;
+        if (v == var) {
+          if (++var_uses > 1) return false;
+        } else {
+          invariant_.push_back(v);
+        }
+        operand = false;
+      } else if (t == T_DECIMALINT) {
+        std::string_view d = toks_[p_].text();
+        if (d.size() > 6 || d.find_first_not_of("0123456789") != std::string_view::npos) return false;
+        operand = false;
+      } else if (t == T_LPARENTHESIS) {
+        ++depth;
+      } else if (t != T_PLUS && t != T_MINUS) {
+        return false;
+      }
+    } else if (t == T_PLUS || t == T_MINUS) {
+      operand = true;
+    } else if (t == T_RPARENTHESIS && depth > 0) {
+      --depth;
+    } else {
+      s.end = p_;
+      return t == stop && depth == 0;
+    }
+  }
+}
+
+// Every dimension of `sym` subscripted, p_ at its name.
+bool LoopShape::subscripts(int sym) {
+  SpaceUse use{sym, {}};
+  ++p_;
+  for (int d = 0; d < symbols_[sym].dim_count(); ++d) {
+    if (!at(T_LSQUAREBRACKET)) return false;
+    ++p_;
+    Span s;
+    if (!linear(T_RSQUAREBRACKET, s)) return false;
+    ++p_;
+    use.subs.push_back(s);
+  }
+  if (at(T_LSQUAREBRACKET) || at(T_DOT)) return false;
+  uses.push_back(std::move(use));
+  return true;
+}
+
+// An arithmetic expression up to ";": variables, elements, constants,
+// + - * / %, parentheses and casts to basic types.
+bool LoopShape::value() {
+  bool operand = true;
+  int depth = 0;
+  for (;;) {
+    int t = tok(p_);
+    if (operand) {
+      if (t == T_IDENTIFIER) {
+        int s = arithmetic_variable(p_);
+        if (!s) return false;
+        if (symbols_[s].dim_count() > 0) {
+          if (!subscripts(s)) return false;
+        } else {
+          ++p_;
+        }
+        operand = false;
+        continue;
+      }
+      switch (t) {
+        case T_DECIMALINT:
+        case T_HEXADECIMAL:
+        case T_FLOATONE:
+        case T_FLOATTWO:
+        case T_CHARACTER:
+          operand = false;
+          break;
+        case T_LPARENTHESIS: {
+          size_t k = p_ + 1;
+          while (tok(k) == T_CHAR || tok(k) == T_SHORT || tok(k) == T_INT || tok(k) == T_LONG ||
+                 tok(k) == T_FLOAT || tok(k) == T_DOUBLE || tok(k) == T_SIGNED || tok(k) == T_UNSIGNED)
+            ++k;
+          if (k == p_ + 1) {
+            ++depth;
+          } else {
+            if (tok(k) != T_RPARENTHESIS) return false;
+            p_ = k;  // a cast: an operand still follows
+          }
+          break;
+        }
+        case T_PLUS:
+        case T_MINUS:
+          break;
+        default:
+          return false;
+      }
+      ++p_;
+      continue;
+    }
+    if (t == T_PLUS || t == T_MINUS || t == T_MULTIPLY || t == T_DIVIDE || t == T_PERCENT) {
+      operand = true;
+    } else if (t == T_RPARENTHESIS && depth > 0) {
+      --depth;
+    } else {
+      return t == T_SEMICOLON && depth == 0;
+    }
+    ++p_;
+  }
+}
+
+// target "=" value ";" where the target is a scalar or an element of a
+// space of two or more dimensions (a written one-dimensional element
+// raises the space's occurs, which the copy without checks would lose).
+bool LoopShape::assignment() {
+  int s = arithmetic_variable(p_);
+  if (!s) return false;
+  if (symbols_[s].dim_count() == 0) {
+    written_.push_back(s);
+    ++p_;
+  } else if (symbols_[s].dim_count() < 2 || !subscripts(s)) {
+    return false;
+  }
+  if (!at(T_ASSIGNEQUAL)) return false;
+  ++p_;
+  if (!value()) return false;
+  ++p_;
+  ++statements;
+  return true;
+}
+
+bool LoopShape::read(size_t at_for) {
+  // for ( init ; v < bound ; v++ )
+  p_ = at_for + 1;
+  if (!at(T_LPARENTHESIS)) return false;
+  ++p_;
+  for (int depth = 0; !(at(T_SEMICOLON) && depth == 0); ++p_) {
+    if (at(T_Eof) || at(T_LCURLYBRACE)) return false;
+    if (at(T_LPARENTHESIS)) ++depth;
+    if (at(T_RPARENTHESIS)) --depth;
+  }
+  ++p_;
+  var = int_variable(p_);
+  if (!var) return false;
+  ++p_;
+  if (!at(T_LESSTHAN) && !at(T_LESSTHANOREQUALTO)) return false;
+  inclusive = at(T_LESSTHANOREQUALTO);
+  ++p_;
+  if (!linear(T_SEMICOLON, bound)) return false;
+  for (size_t i = bound.begin; i < bound.end; ++i)
+    if (tok(i) == T_IDENTIFIER && int_variable(i) == var) return false;
+  ++p_;
+  if (at(T_PLUSPLUS) && int_variable(p_ + 1) == var) {
+    p_ += 2;
+  } else if (int_variable(p_) == var && (tok(p_ + 1) == T_PLUSPLUS ||
+                                         (tok(p_ + 1) == T_PLUSEQUAL && tok(p_ + 2) == T_DECIMALINT &&
+                                          toks_[p_ + 2].text() == "1"))) {
+    p_ += tok(p_ + 1) == T_PLUSPLUS ? 2 : 3;
+  } else {
+    return false;
+  }
+  if (!at(T_RPARENTHESIS)) return false;
+  ++p_;
+  // The body: one assignment, or a block of them.
+  if (at(T_LCURLYBRACE)) {
+    ++p_;
+    while (!at(T_RCURLYBRACE))
+      if (!assignment()) return false;
+  } else if (!assignment()) {
+    return false;
+  }
+  if (statements == 0 || uses.empty()) return false;
+  // Nothing the bound or a subscript reads, nor the loop variable, is assigned.
+  for (int w : written_)
+    if (w == var || std::find(invariant_.begin(), invariant_.end(), w) != invariant_.end()) return false;
+  return true;
+}
+
+}  // namespace
+
+// The C text of a variable, as its references write it.
+static std::string variable_text(const Symbol& s) {
+  return clashes_with_c_headers(s.name) ? c_name(s.name) : s.name;
+}
+
+FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword) {
+  FunctionContext::LoopVersion plan;
+  const std::vector<Token>& toks = decl_.tokens().tokens;
+  size_t at = static_cast<size_t>(&keyword - toks.data());
+  LoopShape shape(toks, symbols_);
+  if (at >= toks.size() || !shape.read(at)) return plan;
+
+  const std::string var = variable_text(symbols_[shape.var]);
+  // A linear span in long long, so that the test itself cannot overflow;
+  // `var_value` stands for the loop variable.
+  auto wide = [&](Span s, const std::string& var_value) {
+    std::string t;
+    for (size_t i = s.begin; i < s.end; ++i) {
+      const Token& k = toks[i];
+      if (!t.empty() && k.tok != T_RPARENTHESIS && t.back() != '(') t += ' ';
+      if (k.tok == T_IDENTIFIER) {
+        int v = symbols_.find_other('o', k.text(), 0);
+        t += v == shape.var ? var_value : "(long long)(" + variable_text(symbols_[v]) + ")";
+      } else {
+        t += k.text();
+      }
+    }
+    return t;
+  };
+  auto reads_var = [&](Span s) {
+    for (size_t i = s.begin; i < s.end; ++i)
+      if (toks[i].tok == T_IDENTIFIER && symbols_.find_other('o', toks[i].text(), 0) == shape.var) return true;
+    return false;
+  };
+  const std::string bound = wide(shape.bound, "");
+  const std::string first = "(long long)(" + var + ")";
+  const std::string last = shape.inclusive ? "(" + bound + ")" : "(" + bound + " - 1)";
+
+  std::vector<std::string> tests;
+  auto test = [&](std::string t) {
+    if (std::find(tests.begin(), tests.end(), t) == tests.end()) tests.push_back(std::move(t));
+  };
+  auto in_range = [&](const std::string& sub, const std::string& limit) {
+    test(sub + " >= 0");
+    test(sub + " < (long long)(" + limit + ")");
+  };
+  for (const SpaceUse& use : shape.uses) {
+    const Symbol& s = symbols_[use.sym];
+    const std::string name = variable_text(s);
+    const std::string record = s.p_or_r == 'p' || s.p_or_r == 'r' ? "(*" + name + ")"
+                               : s.is_var == 'y'                  ? name
+                                                                  : names_.companion(s.name);
+    for (size_t d = 0; d < use.subs.size(); ++d) {
+      const std::string limit = strf("%s.limit%d", record.c_str(), static_cast<int>(d + 1));
+      std::vector<std::string> ends{wide(use.subs[d], first)};
+      if (reads_var(use.subs[d])) ends.push_back(wide(use.subs[d], last));
+      for (const std::string& e : ends) {
+        in_range(e, limit);
+        // A read of one dimension must also lie below occurs.
+        if (use.subs.size() == 1) in_range(e, record + ".occurs");
+      }
+    }
+  }
+  std::string guard = first + (shape.inclusive ? " <= " : " < ") + bound + " && !(";
+  for (size_t i = 0; i < tests.size(); ++i) guard += (i ? " && " : "") + tests[i];
+  plan.candidate = true;
+  plan.statements = shape.statements;
+  plan.guard = guard + ")";
+  return plan;
+}
+
+void Translator::collect_unchecked(const std::string& value) {
+  FunctionContext::LoopVersion& v = fn().versions.back();
+  if (!v.candidate) return;
+  v.fast += "\n" + value + ";";
+  ++v.collected;
+}
+
+std::string Translator::versioned_loop(const FunctionContext::LoopVersion& plan, const std::string& condition,
+                                       const std::string& body, const std::string& step) {
+  if (!plan.candidate || plan.collected != plan.statements) return {};
+  // The checked body must hold each statement as collected, in order: its
+  // checks, then the statement itself.
+  size_t at = 0;
+  for (size_t start = 0; start < plan.fast.size();) {
+    size_t next = plan.fast.find(";\n", start);
+    next = next == std::string::npos ? plan.fast.size() : next + 1;
+    at = body.find(std::string_view(plan.fast).substr(start, next - start), at);
+    if (at == std::string::npos) return {};
+    start = next;
+  }
+  ++version_counter_;
+  std::string fast = generated("fast", version_counter_);
+  std::string checked = generated("checked", version_counter_);
+  return "\nif(" + plan.guard + ") goto " + checked + ";\n" + fast + ":" + condition + plan.fast + step +
+         "\ngoto " + fast + ";\n" + checked + ":";
+}
+
+}  // namespace ycc
