@@ -262,12 +262,10 @@ bool LoopShape::read(size_t at_for) {
   return true;
 }
 
-}  // namespace
-
 // The C text of a variable, as its references write it.
-static std::string variable_text(const Symbol& s) {
-  return clashes_with_c_headers(s.name) ? c_name(s.name) : s.name;
-}
+std::string variable_text(const Symbol& s) { return clashes_with_c_headers(s.name) ? c_name(s.name) : s.name; }
+
+}  // namespace
 
 FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword) {
   FunctionContext::LoopVersion plan;

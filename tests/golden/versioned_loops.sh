@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# Random programs of loops over a two-dimensional varspace, a fixed-space
+# and a one-dimensional varspace, whose subscripts follow the loop variable
+# or stay put and now and then leave their range (a report ends the
+# program, a write past a limit grows the varspace). Each is translated
+# with and without --versioned-loops, built with gcc, run, and must print
+# the same output, report the same reference and end with the same status.
+# usage: versioned_loops.sh YCC RUNTIME_DIR VARIANTS_DIR [programs]
+set -uo pipefail
+ycc=$(realpath "$1")
+runtime=$(cd "$2" && pwd)
+lib=$(realpath "$3")/gcc/libycrt.a
+count=${4:-60}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+generate() {  # seed -> a.yc
+  awk -v seed="$1" '
+  function pick(n) { return int(rand() * n) }
+  function off(  c) {
+    c = pick(7); c = c < 4 ? 0 : c < 6 ? 1 : 2
+    if (rand() < 0.1) c = rand() < 0.5 ? 3 : 6
+    return c == 0 ? "" : (rand() < 0.5 ? " + " : " - ") c
+  }
+  function subscript(inv,  k) {
+    k = rand()
+    if (k < 0.5) return "j" off()
+    if (k < 0.6) return rand() < 0.5 ? "n + 2 - j" off() : "-j + n + 2" off()
+    if (k < 0.9) return inv off()
+    return pick(10)
+  }
+  function value(  v) {
+    v = (rand() < 0.3 ? "t" : rand() < 0.5 ? "(double)j" : "1.0") " * 0.5 + e[" subscript("m") "][" subscript("i") "]"
+    if (rand() < 0.3) v = v " + (double)v[" subscript("m") "]"
+    if (rand() < 0.4) v = v " - g[" subscript("i") "][" subscript("m") "]"
+    return v
+  }
+  BEGIN {
+    srand(seed)
+    print "#include <ycrt.h>"
+    print "main(struct yc_argument args[]) int status\n{"
+    print "   double var g[][];\n   double e[12][12];\n   int var v[];"
+    print "   int i;\n   int j;\n   int n;\n   int m;\n   double t;"
+    print "   status = 0;\n   t = 0.0;"
+    printf "   n = %d;\n   m = %d;\n", 3 + pick(6), 2 + pick(4)
+    printf "   g[%d][%d] = 1.0;\n", 2 + pick(11), 2 + pick(11)
+    print "   for (i = 0; i < 12; i++) v[i] = i;"
+    print "   for (i = 0; i < 12; i++) for (j = 0; j < 12; j++) e[i][j] = (double)(i - j);"
+    split("1 2 m n-3", firsts, " "); split("n n-1 m+2 7 n+1", bounds, " ")
+    split("j++ ++j j+=1", steps, " ")
+    loops = 2 + pick(4)
+    for (l = 0; l < loops; l++) {
+      printf "   i = %d;\n", 2 + pick(3)
+      a = firsts[1 + pick(4)]; b = bounds[1 + pick(5)]; s = steps[1 + pick(3)]
+      gsub(/-/, " - ", a); gsub(/[+]/, " + ", b); gsub(/-/, " - ", b); sub(/[+]=/, " += ", s)
+      printf "   for (j = %s; j %s %s; %s) {\n", a, rand() < 0.5 ? "<" : "<=", b, s
+      statements = 1 + pick(3)
+      for (k = 0; k < statements; k++) {
+        kind = rand()
+        if (kind < 0.4) printf "      g[%s][%s] = %s;\n", subscript("i"), subscript("m"), value()
+        else if (kind < 0.6) printf "      e[%s][%s] = %s;\n", subscript("m"), subscript("i"), value()
+        else printf "      t = t + %s;\n", value()
+      }
+      print "   }"
+      printf "   printf(\"%%d %%.3f %%u %%u\\n\", %d, t, g[this][].limit, g[][this].limit);\n", l
+    }
+    print "}"
+  }' > a.yc
+}
+
+failed=0 copied=0
+for seed in $(seq 1 "$count"); do
+  generate "$seed"
+  for form in checked versioned; do
+    flags=()
+    [ "$form" = versioned ] && flags=(--versioned-loops)
+    if ! "$ycc" /L0 "${flags[@]}" /I "$runtime" a.yc > ycc.log 2>&1; then
+      echo "FAIL seed $seed: ycc refused the program ($form)"; cat ycc.log a.yc; exit 1
+    fi
+    [ "$form" = versioned ] && grep -q '^zzzz_fast[0-9]*:' a.c && copied=$((copied + 1))
+    gcc -std=c99 -w -I "$runtime" -o "$form" a.c "$lib" -lm || { echo "FAIL seed $seed: $form does not build"; exit 1; }
+    "./$form" > "$form.out" 2> "$form.err"
+    echo "status $?" >> "$form.out"
+  done
+  if ! cmp -s checked.out versioned.out || ! cmp -s checked.err versioned.err; then
+    echo "FAIL seed $seed: the versioned loops behave differently"
+    cat a.yc; diff checked.out versioned.out; diff checked.err versioned.err
+    failed=$((failed + 1))
+  fi
+done
+echo "$count programs, $copied with copies without checks, $failed differ"
+[ "$failed" -eq 0 ] && [ "$copied" -ge $((count / 2)) ]
