@@ -50,6 +50,7 @@ struct FunctionContext {
     int statements = 0;  // the assignments the body holds
     int collected = 0;
     std::string guard;
+    std::string raise;  // occurs raised before the copy runs
     std::string fast;
   };
   std::vector<LoopVersion> versions;

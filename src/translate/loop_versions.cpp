@@ -29,6 +29,7 @@ struct Span {
 struct SpaceUse {
   int sym = 0;
   std::vector<Span> subs;
+  bool written = false;
 };
 
 // Reads the loop's tokens and says whether the loop has the shape; it
@@ -54,7 +55,7 @@ class LoopShape {
   int arithmetic_variable(size_t i) const;
   int int_variable(size_t i) const;
   bool linear(int stop, Span& s);
-  bool subscripts(int sym);
+  bool subscripts(int sym, bool written);
   bool value();
   bool assignment();
 
@@ -119,8 +120,8 @@ bool LoopShape::linear(int stop, Span& s) {
 }
 
 // Every dimension of `sym` subscripted, p_ at its name.
-bool LoopShape::subscripts(int sym) {
-  SpaceUse use{sym, {}};
+bool LoopShape::subscripts(int sym, bool written) {
+  SpaceUse use{sym, {}, written};
   ++p_;
   for (int d = 0; d < symbols_[sym].dim_count(); ++d) {
     if (!at(T_LSQUAREBRACKET)) return false;
@@ -147,7 +148,7 @@ bool LoopShape::value() {
         int s = arithmetic_variable(p_);
         if (!s) return false;
         if (symbols_[s].dim_count() > 0) {
-          if (!subscripts(s)) return false;
+          if (!subscripts(s, false)) return false;
         } else {
           ++p_;
         }
@@ -195,16 +196,14 @@ bool LoopShape::value() {
   }
 }
 
-// target "=" value ";" where the target is a scalar or an element of a
-// space of two or more dimensions (a written one-dimensional element
-// raises the space's occurs, which the copy without checks would lose).
+// target "=" value ";" where the target is a scalar or an element.
 bool LoopShape::assignment() {
   int s = arithmetic_variable(p_);
   if (!s) return false;
   if (symbols_[s].dim_count() == 0) {
     written_.push_back(s);
     ++p_;
-  } else if (symbols_[s].dim_count() < 2 || !subscripts(s)) {
+  } else if (!subscripts(s, true)) {
     return false;
   }
   if (!at(T_ASSIGNEQUAL)) return false;
@@ -299,6 +298,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
   const std::string bound = wide(shape.bound, "");
   const std::string first = "(long long)(" + var + ")";
   const std::string last = shape.inclusive ? "(" + bound + ")" : "(" + bound + " - 1)";
+  const std::string runs = first + (shape.inclusive ? " <= " : " < ") + bound;
 
   std::vector<std::string> tests;
   auto test = [&](std::string t) {
@@ -320,12 +320,22 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
       if (reads_var(use.subs[d])) ends.push_back(wide(use.subs[d], last));
       for (const std::string& e : ends) {
         in_range(e, limit);
-        // A read of one dimension must also lie below occurs.
-        if (use.subs.size() == 1) in_range(e, record + ".occurs");
+        if (use.subs.size() != 1) continue;
+        // A read of one dimension must also lie below occurs. A write
+        // raises occurs to one past the element: the copy raises it once,
+        // before it starts, to one past the highest element it will write,
+        // which for a linear subscript is the first or the last.
+        if (!use.written) {
+          in_range(e, record + ".occurs");
+        } else {
+          std::string r = strf("\nif(%s && %s + 1 > (long long)(%s.occurs))\n   (%s.occurs) = (unsigned)(%s + 1);",
+                               runs.c_str(), e.c_str(), record.c_str(), record.c_str(), e.c_str());
+          if (plan.raise.find(r) == std::string::npos) plan.raise += r;
+        }
       }
     }
   }
-  std::string guard = first + (shape.inclusive ? " <= " : " < ") + bound + " && !(";
+  std::string guard = runs + " && !(";
   for (size_t i = 0; i < tests.size(); ++i) guard += (i ? " && " : "") + tests[i];
   plan.candidate = true;
   plan.statements = shape.statements;
@@ -356,7 +366,7 @@ std::string Translator::versioned_loop(const FunctionContext::LoopVersion& plan,
   ++version_counter_;
   std::string fast = generated("fast", version_counter_);
   std::string checked = generated("checked", version_counter_);
-  return "\nif(" + plan.guard + ") goto " + checked + ";\n" + fast + ":" + condition + plan.fast + step +
+  return "\nif(" + plan.guard + ") goto " + checked + ";" + plan.raise + "\n" + fast + ":" + condition + plan.fast + step +
          "\ngoto " + fast + ";\n" + checked + ":";
 }
 

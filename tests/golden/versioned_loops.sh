@@ -2,7 +2,8 @@
 # Random programs of loops over a two-dimensional varspace, a fixed-space
 # and a one-dimensional varspace, whose subscripts follow the loop variable
 # or stay put and now and then leave their range (a report ends the
-# program, a write past a limit grows the varspace). Each is translated
+# program, a write past a limit grows the varspace, a write past occurs
+# raises it). Each is translated
 # with and without --versioned-loops, built with gcc, run, and must print
 # the same output, report the same reference and end with the same status.
 # usage: versioned_loops.sh YCC RUNTIME_DIR VARIANTS_DIR [programs]
@@ -45,7 +46,7 @@ generate() {  # seed -> a.yc
     print "   status = 0;\n   t = 0.0;"
     printf "   n = %d;\n   m = %d;\n", 3 + pick(6), 2 + pick(4)
     printf "   g[%d][%d] = 1.0;\n", 2 + pick(11), 2 + pick(11)
-    print "   for (i = 0; i < 12; i++) v[i] = i;"
+    printf "   for (i = 0; i < %d; i++) v[i] = i;\n", 6 + pick(7)
     print "   for (i = 0; i < 12; i++) for (j = 0; j < 12; j++) e[i][j] = (double)(i - j);"
     split("1 2 m n-3", firsts, " "); split("n n-1 m+2 7 n+1", bounds, " ")
     split("j++ ++j j+=1", steps, " ")
@@ -58,12 +59,13 @@ generate() {  # seed -> a.yc
       statements = 1 + pick(3)
       for (k = 0; k < statements; k++) {
         kind = rand()
-        if (kind < 0.4) printf "      g[%s][%s] = %s;\n", subscript("i"), subscript("m"), value()
-        else if (kind < 0.6) printf "      e[%s][%s] = %s;\n", subscript("m"), subscript("i"), value()
+        if (kind < 0.35) printf "      g[%s][%s] = %s;\n", subscript("i"), subscript("m"), value()
+        else if (kind < 0.5) printf "      e[%s][%s] = %s;\n", subscript("m"), subscript("i"), value()
+        else if (kind < 0.6) printf "      v[%s] = (int)(%s);\n", subscript("m"), value()
         else printf "      t = t + %s;\n", value()
       }
       print "   }"
-      printf "   printf(\"%%d %%.3f %%u %%u\\n\", %d, t, g[this][].limit, g[][this].limit);\n", l
+      printf "   printf(\"%%d %%.3f %%u %%u %%u\\n\", %d, t, g[this][].limit, g[][this].limit, v.occurs);\n", l
     }
     print "}"
   }' > a.yc

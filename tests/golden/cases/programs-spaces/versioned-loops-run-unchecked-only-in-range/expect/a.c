@@ -187,6 +187,8 @@ struct zz2D_meta h = {NULL};
 double e[3][4];
 struct zz2D_meta zz_e = {NULL,3,4};
 struct zz1D_meta v = {NULL};
+int f[8];
+struct zz1D_meta zz_f = {NULL,0,8};
 int i;
 int j;
 int n;
@@ -198,32 +200,35 @@ static char zzzz_string2[35] = "g grew to %u x %u, g[7][9] = %.1f\n";
 static struct zz1D_meta zz_zzzz_string2 = {zzzz_string2,34,35};
 static char zzzz_string3[16] = "v sum %d of %u\n";
 static struct zz1D_meta zz_zzzz_string3 = {zzzz_string3,15,16};
-static char zzzz_string4[18] = "not reached %.1f\n";
-static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,17,18};
+static char zzzz_string4[27] = "f %d of %u, v[4] %d of %u\n";
+static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,26,27};
+static char zzzz_string5[18] = "not reached %.1f\n";
+static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,17,18};
 void *zzzz_actuals[2];
 
 zz_e.ptr = e;
+zz_f.ptr = f;
 zzzz_actuals[0] = &(zzzz_exception);
 status = 0;
 n = 5;
 if((signed)(n - 1) < 0 || (signed)(n - 1) < 0)
-   zzzz_bounds_exceeded("g", 19, 4, (unsigned)(n - 1), (unsigned)(n - 1),
+   zzzz_bounds_exceeded("g", 20, 4, (unsigned)(n - 1), (unsigned)(n - 1),
   (unsigned)(g.limit1), (unsigned)(g.limit2));
 if((unsigned)(n - 1) >= (g.limit1) || (unsigned)(n - 1) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(n - 1), 7, 15, (unsigned)(n - 1), 7,
   15)) {
-      zzzz_out_of_memory(19);
+      zzzz_out_of_memory(20);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 (*(((double *)(g.ptr)) + ((n - 1) * (g.limit2) + (n - 1)))) = 0.0;
 if((signed)(n - 1) < 0 || (signed)(n - 1) < 0)
-   zzzz_bounds_exceeded("h", 20, 4, (unsigned)(n - 1), (unsigned)(n - 1),
+   zzzz_bounds_exceeded("h", 21, 4, (unsigned)(n - 1), (unsigned)(n - 1),
   (unsigned)(h.limit1), (unsigned)(h.limit2));
 if((unsigned)(n - 1) >= (h.limit1) || (unsigned)(n - 1) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(n - 1), 7, 15, (unsigned)(n - 1), 7,
   15)) {
-      zzzz_out_of_memory(20);
+      zzzz_out_of_memory(21);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -251,28 +256,28 @@ zzzz_checked1:
 zzzz_cont3:
 if(!(j < n)) goto zzzz_false2;
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("g", 24, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 25, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((unsigned)(i) >= (g.limit1) || (unsigned)(j) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(24);
+      zzzz_out_of_memory(25);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 (*(((double *)(g.ptr)) + ((i) * (g.limit2) + (j)))) = ((double)((i * n + 
  j)));
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("h", 25, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 26, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 if((unsigned)(i) >= (h.limit1) || (unsigned)(j) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(25);
+      zzzz_out_of_memory(26);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(j) < 0 || (unsigned)(j) 
  >= (g.limit2))
-   zzzz_bounds_exceeded("g", 25, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 26, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j)))) = -(*(((double *)(g.ptr)) 
  + ((i) * (g.limit2) + (j))));
@@ -315,29 +320,29 @@ zzzz_checked2:
 zzzz_cont7:
 if(!(j <= n - 2)) goto zzzz_false4;
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("h", 30, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 31, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 if((unsigned)(i) >= (h.limit1) || (unsigned)(j) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(30);
+      zzzz_out_of_memory(31);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 if((signed)(i - 1) < 0 || (unsigned)(i - 1) >= (g.limit1) || (signed)(j) 
  < 0 || (unsigned)(j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 30, 4, (unsigned)(i - 1), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i - 1), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i + 1) < 0 || (unsigned)(i + 1) >= (g.limit1) || (signed)(j) 
  < 0 || (unsigned)(j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 30, 4, (unsigned)(i + 1), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i + 1), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(j - 1) < 0 
  || (unsigned)(j - 1) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 30, 4, (unsigned)(i), (unsigned)(j - 1), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i), (unsigned)(j - 1), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(n - 1 - j) 
  < 0 || (unsigned)(n - 1 - j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 30, 4, (unsigned)(i), (unsigned)(n - 1 - j),
+   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i), (unsigned)(n - 1 - j),
   (unsigned)(g.limit1), (unsigned)(g.limit2));
 (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j)))) = 0.25 * ((*(((double 
  *)(g.ptr)) + ((i - 1) * (g.limit2) + (j)))) + (*(((double *)(g.ptr)) + ((i 
@@ -371,7 +376,7 @@ zzzz_cont11:
 if(!(j < n)) goto zzzz_false6;
 if((signed)(i) < 0 || (unsigned)(i) >= (h.limit1) || (signed)(j) < 0 || (unsigned)(j) 
  >= (h.limit2))
-   zzzz_bounds_exceeded("h", 34, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 35, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 t = t + (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j))));
 zzzz_cont10:
@@ -387,7 +392,7 @@ zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string1), (double)(t));
 if(zzzz_exception) {
-   zzzz_out_of_memory(35);
+   zzzz_out_of_memory(36);
    goto zzzz_finish;
 }
 j = 0;
@@ -405,12 +410,12 @@ zzzz_checked4:
 zzzz_cont14:
 if(!(j < n + 5)) goto zzzz_false7;
 if((signed)(n + 2) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("g", 38, 4, (unsigned)(n + 2), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 39, 4, (unsigned)(n + 2), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((unsigned)(n + 2) >= (g.limit1) || (unsigned)(j) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(n + 2), 7, 15, (unsigned)(j), 7, 15)) 
  {
-      zzzz_out_of_memory(38);
+      zzzz_out_of_memory(39);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -422,21 +427,21 @@ goto zzzz_cont14;
 zzzz_false7:
 if((signed)(7) < 0 || (unsigned)(7) >= (g.limit1) || (signed)(9) < 0 || (unsigned)(9) 
  >= (g.limit2))
-   zzzz_bounds_exceeded("g", 39, 4, (unsigned)(7), (unsigned)(9), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 40, 4, (unsigned)(7), (unsigned)(9), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string2), g.limit1, g.limit2, (double)((*(((double 
  *)(g.ptr)) + ((7) * (g.limit2) + (9))))));
 if(zzzz_exception) {
-   zzzz_out_of_memory(39);
+   zzzz_out_of_memory(40);
    goto zzzz_finish;
 }
 if((signed)(3) < 0)
-   zzzz_bounds_exceeded("v", 41, 2, (unsigned)(3), (unsigned)(v.limit1));
+   zzzz_bounds_exceeded("v", 42, 2, (unsigned)(3), (unsigned)(v.limit1));
 if((unsigned)(3) >= (v.limit1))
    if(!zzzz_resize2(&(v), (unsigned)(3), 50, 15)) {
-      zzzz_out_of_memory(41);
+      zzzz_out_of_memory(42);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -444,10 +449,10 @@ if((unsigned)(3) + 1 > (v.occurs))
    (v.occurs) = (unsigned)(3) + 1;
 (*(((int *)(v.ptr)) + ((3)))) = 30;
 if((signed)(2) < 0)
-   zzzz_bounds_exceeded("v", 42, 2, (unsigned)(2), (unsigned)(v.limit1));
+   zzzz_bounds_exceeded("v", 43, 2, (unsigned)(2), (unsigned)(v.limit1));
 if((unsigned)(2) >= (v.limit1))
    if(!zzzz_resize2(&(v), (unsigned)(2), 50, 15)) {
-      zzzz_out_of_memory(42);
+      zzzz_out_of_memory(43);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -455,10 +460,10 @@ if((unsigned)(2) + 1 > (v.occurs))
    (v.occurs) = (unsigned)(2) + 1;
 (*(((int *)(v.ptr)) + ((2)))) = 20;
 if((signed)(1) < 0)
-   zzzz_bounds_exceeded("v", 43, 2, (unsigned)(1), (unsigned)(v.limit1));
+   zzzz_bounds_exceeded("v", 44, 2, (unsigned)(1), (unsigned)(v.limit1));
 if((unsigned)(1) >= (v.limit1))
    if(!zzzz_resize2(&(v), (unsigned)(1), 50, 15)) {
-      zzzz_out_of_memory(43);
+      zzzz_out_of_memory(44);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -466,10 +471,10 @@ if((unsigned)(1) + 1 > (v.occurs))
    (v.occurs) = (unsigned)(1) + 1;
 (*(((int *)(v.ptr)) + ((1)))) = 10;
 if((signed)(0) < 0)
-   zzzz_bounds_exceeded("v", 44, 2, (unsigned)(0), (unsigned)(v.limit1));
+   zzzz_bounds_exceeded("v", 45, 2, (unsigned)(0), (unsigned)(v.limit1));
 if((unsigned)(0) >= (v.limit1))
    if(!zzzz_resize2(&(v), (unsigned)(0), 50, 15)) {
-      zzzz_out_of_memory(44);
+      zzzz_out_of_memory(45);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -492,7 +497,7 @@ zzzz_checked5:
 zzzz_cont16:
 if(!(j < 4)) goto zzzz_false8;
 if((signed)(j) < 0 || (unsigned)(j) >= (v.occurs))
-   zzzz_bounds_exceeded("v", 47, 2, (unsigned)(j), (unsigned)(v.occurs));
+   zzzz_bounds_exceeded("v", 48, 2, (unsigned)(j), (unsigned)(v.occurs));
 n = n + (*(((int *)(v.ptr)) + ((j)))) / 10;
 zzzz_cont15:
 zzzz_int1 = j;
@@ -503,61 +508,137 @@ zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string3), n, v.occurs);
 if(zzzz_exception) {
-   zzzz_out_of_memory(48);
+   zzzz_out_of_memory(49);
    goto zzzz_finish;
 }
 j = 0;
-if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
- 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked6;
+if((long long)(j) < 6 && !((long long)(j) >= 0 && (long long)(j) < (long 
+ long)(zz_f.limit1) && (6 - 1) >= 0 && (6 - 1) < (long long)(zz_f.limit1))) 
+ goto zzzz_checked6;
+if((long long)(j) < 6 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((long long)(j) + 1);
+if((long long)(j) < 6 && (6 - 1) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((6 - 1) + 1);
 zzzz_fast6:
-if(!(j < 4)) goto zzzz_false9;
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+if(!(j < 6)) goto zzzz_false9;
+(*(((int *)(zz_f.ptr)) + ((j)))) = j * j;
 zzzz_int1 = j;
 j++;
 goto zzzz_fast6;
 zzzz_checked6:
 zzzz_cont18:
-if(!(j < 4)) goto zzzz_false9;
-if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
- (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 51, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
-  (unsigned)(zz_e.limit2));
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+if(!(j < 6)) goto zzzz_false9;
+if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
+   zzzz_bounds_exceeded("f", 52, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
+if((unsigned)(j) + 1 > (zz_f.occurs))
+   (zz_f.occurs) = (unsigned)(j) + 1;
+(*(((int *)(zz_f.ptr)) + ((j)))) = j * j;
 zzzz_cont17:
 zzzz_int1 = j;
 j++;
 goto zzzz_cont18;
 zzzz_false9:
-t = 0.0;
 j = 0;
-if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
- (4) < (long long)(zz_e.limit2))) goto zzzz_checked7;
+if((long long)(j) < 2 && !((long long)(j) + 3 >= 0 && (long long)(j) + 3 
+ < (long long)(v.limit1) && (2 - 1) + 3 >= 0 && (2 - 1) + 3 < (long long)(v.limit1) 
+ && (long long)(j) >= 0 && (long long)(j) < (long long)(v.limit1) && (long 
+ long)(j) < (long long)(v.occurs) && (2 - 1) >= 0 && (2 - 1) < (long long)(v.limit1) 
+ && (2 - 1) < (long long)(v.occurs))) goto zzzz_checked7;
+if((long long)(j) < 2 && (long long)(j) + 3 + 1 > (long long)(v.occurs))
+   (v.occurs) = (unsigned)((long long)(j) + 3 + 1);
+if((long long)(j) < 2 && (2 - 1) + 3 + 1 > (long long)(v.occurs))
+   (v.occurs) = (unsigned)((2 - 1) + 3 + 1);
 zzzz_fast7:
-if(!(j <= 4)) goto zzzz_false10;
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+if(!(j < 2)) goto zzzz_false10;
+(*(((int *)(v.ptr)) + ((j + 3)))) = (*(((int *)(v.ptr)) + ((j)))) + 1;
 zzzz_int1 = j;
 j++;
 goto zzzz_fast7;
 zzzz_checked7:
 zzzz_cont20:
-if(!(j <= 4)) goto zzzz_false10;
-if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
- (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 54, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
-  (unsigned)(zz_e.limit2));
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+if(!(j < 2)) goto zzzz_false10;
+if((signed)(j + 3) < 0)
+   zzzz_bounds_exceeded("v", 54, 2, (unsigned)(j + 3), (unsigned)(v.limit1));
+if((unsigned)(j + 3) >= (v.limit1))
+   if(!zzzz_resize2(&(v), (unsigned)(j + 3), 50, 15)) {
+      zzzz_out_of_memory(54);
+      zzzz_exception = 32000;
+      goto zzzz_finish;
+   }
+if((unsigned)(j + 3) + 1 > (v.occurs))
+   (v.occurs) = (unsigned)(j + 3) + 1;
+if((signed)(j) < 0 || (unsigned)(j) >= (v.occurs))
+   zzzz_bounds_exceeded("v", 54, 2, (unsigned)(j), (unsigned)(v.occurs));
+(*(((int *)(v.ptr)) + ((j + 3)))) = (*(((int *)(v.ptr)) + ((j)))) + 1;
 zzzz_cont19:
 zzzz_int1 = j;
 j++;
 goto zzzz_cont20;
 zzzz_false10:
+if((signed)(5) < 0 || (unsigned)(5) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 55, 2, (unsigned)(5), (unsigned)(zz_f.occurs));
+if((signed)(4) < 0 || (unsigned)(4) >= (v.occurs))
+   zzzz_bounds_exceeded("v", 55, 2, (unsigned)(4), (unsigned)(v.occurs));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string4), (double)(t));
+_yc__printf(zzzz_actuals, &(zz_zzzz_string4), (*(((int *)(zz_f.ptr)) + ((5)))),
+  zz_f.occurs, (*(((int *)(v.ptr)) + ((4)))), v.occurs);
 if(zzzz_exception) {
    zzzz_out_of_memory(55);
+   goto zzzz_finish;
+}
+j = 0;
+if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
+ 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked8;
+zzzz_fast8:
+if(!(j < 4)) goto zzzz_false11;
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+zzzz_int1 = j;
+j++;
+goto zzzz_fast8;
+zzzz_checked8:
+zzzz_cont22:
+if(!(j < 4)) goto zzzz_false11;
+if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
+ (unsigned)(j) >= (zz_e.limit2))
+   zzzz_bounds_exceeded("e", 58, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+  (unsigned)(zz_e.limit2));
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+zzzz_cont21:
+zzzz_int1 = j;
+j++;
+goto zzzz_cont22;
+zzzz_false11:
+t = 0.0;
+j = 0;
+if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
+ (4) < (long long)(zz_e.limit2))) goto zzzz_checked9;
+zzzz_fast9:
+if(!(j <= 4)) goto zzzz_false12;
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_int1 = j;
+j++;
+goto zzzz_fast9;
+zzzz_checked9:
+zzzz_cont24:
+if(!(j <= 4)) goto zzzz_false12;
+if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
+ (unsigned)(j) >= (zz_e.limit2))
+   zzzz_bounds_exceeded("e", 61, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+  (unsigned)(zz_e.limit2));
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_cont23:
+zzzz_int1 = j;
+j++;
+goto zzzz_cont24;
+zzzz_false12:
+zzzz_actuals[0] = &(zzzz_exception);
+zzzz_actuals[1] = &(zzzz_int1);
+_yc__printf(zzzz_actuals, &(zz_zzzz_string5), (double)(t));
+if(zzzz_exception) {
+   zzzz_out_of_memory(62);
    goto zzzz_finish;
 }
 
