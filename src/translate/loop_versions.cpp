@@ -43,6 +43,7 @@ class LoopShape {
 
   int var = 0;         // the loop variable
   Span bound;          // the condition's right side
+  int bound_space = 0;  // or the one-dimensional space whose occurs it is
   bool inclusive = false;  // `<=` rather than `<`
   int statements = 0;  // assignments in the body
   std::vector<SpaceUse> uses;
@@ -231,7 +232,17 @@ bool LoopShape::read(size_t at_for) {
   if (!at(T_LESSTHAN) && !at(T_LESSTHANOREQUALTO)) return false;
   inclusive = at(T_LESSTHANOREQUALTO);
   ++p_;
-  if (!linear(T_SEMICOLON, bound)) return false;
+  if (tok(p_) == T_IDENTIFIER && tok(p_ + 1) == T_DOT && tok(p_ + 2) == T_OCCURS && tok(p_ + 3) == T_SEMICOLON) {
+    // `v < x.occurs`, alone: C compares in unsigned, which never runs
+    // more passes than the exact comparison does; a difference such as
+    // `x.occurs - 1` would wrap below zero.
+    bound_space = arithmetic_variable(p_);
+    if (!bound_space || symbols_[bound_space].dim_count() != 1) return false;
+    bound = {p_, p_ + 3};
+    p_ += 3;
+  } else if (!linear(T_SEMICOLON, bound)) {
+    return false;
+  }
   for (size_t i = bound.begin; i < bound.end; ++i)
     if (tok(i) == T_IDENTIFIER && int_variable(i) == var) return false;
   ++p_;
@@ -255,6 +266,11 @@ bool LoopShape::read(size_t at_for) {
     return false;
   }
   if (statements == 0 || uses.empty()) return false;
+  // A bound of occurs must not move: no one-dimensional space is written
+  // (two parameters may name the same record).
+  if (bound_space)
+    for (const SpaceUse& u : uses)
+      if (u.written && u.subs.size() == 1) return false;
   // Nothing the bound or a subscript reads, nor the loop variable, is assigned.
   for (int w : written_)
     if (w == var || std::find(invariant_.begin(), invariant_.end(), w) != invariant_.end()) return false;
@@ -295,7 +311,13 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
       if (toks[i].tok == T_IDENTIFIER && symbols_.find_other('o', toks[i].text(), 0) == shape.var) return true;
     return false;
   };
-  const std::string bound = wide(shape.bound, "");
+  auto record_of = [&](int sym) {
+    const Symbol& s = symbols_[sym];
+    const std::string name = variable_text(s);
+    return s.p_or_r == 'p' || s.p_or_r == 'r' ? "(*" + name + ")" : s.is_var == 'y' ? name : names_.companion(s.name);
+  };
+  const std::string bound =
+      shape.bound_space ? "(long long)(" + record_of(shape.bound_space) + ".occurs)" : wide(shape.bound, "");
   const std::string first = "(long long)(" + var + ")";
   const std::string last = shape.inclusive ? "(" + bound + ")" : "(" + bound + " - 1)";
   const std::string runs = first + (shape.inclusive ? " <= " : " < ") + bound;
@@ -309,11 +331,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
     test(sub + " < (long long)(" + limit + ")");
   };
   for (const SpaceUse& use : shape.uses) {
-    const Symbol& s = symbols_[use.sym];
-    const std::string name = variable_text(s);
-    const std::string record = s.p_or_r == 'p' || s.p_or_r == 'r' ? "(*" + name + ")"
-                               : s.is_var == 'y'                  ? name
-                                                                  : names_.companion(s.name);
+    const std::string record = record_of(use.sym);
     for (size_t d = 0; d < use.subs.size(); ++d) {
       const std::string limit = strf("%s.limit%d", record.c_str(), static_cast<int>(d + 1));
       std::vector<std::string> ends{wide(use.subs[d], first)};

@@ -107,6 +107,7 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
       {"for (k = 0; k < 4; k++) x = x + v[k] % 3;", 1},
       {"for (; k < a + b; k++) g[0][k] = g[1][(k)];", 1},
       {"for (k = 0; k < a; k++) for (b = 0; b < a; b++) g[k][b] = 1.0;", 1},
+      {"for (k = 0; k <= v.occurs; k++) { t = t + (double)v[k]; g[0][k] = t; }", 1},
       {"for (k = 0; k < a; k++) v[k] = v[k + 1];", 1},
       // What the test reads must not change in the body.
       {"for (k = 0; k < a; k++) { b = k; g[b][k] = 1.0; }", 0},
@@ -119,7 +120,8 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
       {"for (k = 0; k < a; k--) g[0][k] = 1.0;", 0},
       {"for (k = 0; k < a; k += 2) g[0][k] = 1.0;", 0},
       {"for (k = 0; k > a; k++) g[0][k] = 1.0;", 0},
-      {"for (k = 0; k < v.occurs; k++) g[0][k] = 1.0;", 0},
+      {"for (k = 0; k < v.occurs - 1; k++) g[0][k] = 1.0;", 0},
+      {"for (k = 0; k < v.occurs; k++) v[k] = 0;", 0},
       {"for (m = 0; m < a; m++) g[0][m] = 1.0;", 0},
       // Bodies of anything but plain assignments.
       {"for (k = 0; k < a; k++) g[0][k] += 1.0;", 0},

@@ -483,19 +483,20 @@ if((unsigned)(0) + 1 > (v.occurs))
 (*(((int *)(v.ptr)) + ((0)))) = 0;
 n = 0;
 j = 0;
-if((long long)(j) < 4 && !((long long)(j) >= 0 && (long long)(j) < (long 
- long)(v.limit1) && (long long)(j) < (long long)(v.occurs) && (4 - 1) >= 
- 0 && (4 - 1) < (long long)(v.limit1) && (4 - 1) < (long long)(v.occurs))) 
+if((long long)(j) < (long long)(v.occurs) && !((long long)(j) >= 0 && (long 
+ long)(j) < (long long)(v.limit1) && (long long)(j) < (long long)(v.occurs) 
+ && ((long long)(v.occurs) - 1) >= 0 && ((long long)(v.occurs) - 1) < (long 
+ long)(v.limit1) && ((long long)(v.occurs) - 1) < (long long)(v.occurs))) 
  goto zzzz_checked5;
 zzzz_fast5:
-if(!(j < 4)) goto zzzz_false8;
+if(!(j < v.occurs)) goto zzzz_false8;
 n = n + (*(((int *)(v.ptr)) + ((j)))) / 10;
 zzzz_int1 = j;
 j++;
 goto zzzz_fast5;
 zzzz_checked5:
 zzzz_cont16:
-if(!(j < 4)) goto zzzz_false8;
+if(!(j < v.occurs)) goto zzzz_false8;
 if((signed)(j) < 0 || (unsigned)(j) >= (v.occurs))
    zzzz_bounds_exceeded("v", 48, 2, (unsigned)(j), (unsigned)(v.occurs));
 n = n + (*(((int *)(v.ptr)) + ((j)))) / 10;
