@@ -45,6 +45,7 @@ class LoopShape {
   Span bound;          // the condition's right side
   int bound_space = 0;  // or the one-dimensional space whose occurs it is
   bool inclusive = false;  // `<=` rather than `<`
+  Span stride;         // `v += stride` or `v = v + stride`; empty for a step of one
   int statements = 0;  // assignments in the body
   std::vector<SpaceUse> uses;
 
@@ -246,12 +247,29 @@ bool LoopShape::read(size_t at_for) {
   for (size_t i = bound.begin; i < bound.end; ++i)
     if (tok(i) == T_IDENTIFIER && int_variable(i) == var) return false;
   ++p_;
+  // The step: ++v, v++, v += s or v = v + s, where s is an int variable
+  // or a constant (the test before the loop asks s >= 1). The passes then
+  // lie between the first value and the bound, so the ends still bound
+  // every subscript.
   if (at(T_PLUSPLUS) && int_variable(p_ + 1) == var) {
     p_ += 2;
-  } else if (int_variable(p_) == var && (tok(p_ + 1) == T_PLUSPLUS ||
-                                         (tok(p_ + 1) == T_PLUSEQUAL && tok(p_ + 2) == T_DECIMALINT &&
-                                          toks_[p_ + 2].text() == "1"))) {
-    p_ += tok(p_ + 1) == T_PLUSPLUS ? 2 : 3;
+  } else if (int_variable(p_) == var && tok(p_ + 1) == T_PLUSPLUS) {
+    p_ += 2;
+  } else if (int_variable(p_) == var && (tok(p_ + 1) == T_PLUSEQUAL ||
+                                         (tok(p_ + 1) == T_ASSIGNEQUAL && int_variable(p_ + 2) == var &&
+                                          tok(p_ + 3) == T_PLUS))) {
+    p_ += tok(p_ + 1) == T_PLUSEQUAL ? 2 : 4;
+    stride = {p_, p_ + 1};
+    if (at(T_IDENTIFIER)) {
+      int s = int_variable(p_);
+      if (!s || s == var) return false;
+      invariant_.push_back(s);
+    } else if (!at(T_DECIMALINT) || toks_[p_].text().size() > 6 ||
+               toks_[p_].text().find_first_not_of("0123456789") != std::string_view::npos) {
+      return false;
+    }
+    if (tok(p_) == T_DECIMALINT && toks_[p_].text() == "1") stride = {};
+    ++p_;
   } else {
     return false;
   }
@@ -321,6 +339,11 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
   const std::string first = "(long long)(" + var + ")";
   const std::string last = shape.inclusive ? "(" + bound + ")" : "(" + bound + " - 1)";
   const std::string runs = first + (shape.inclusive ? " <= " : " < ") + bound;
+  const bool strided = shape.stride.end > shape.stride.begin;
+  const std::string stride = strided ? wide(shape.stride, "") : std::string();
+  // The value of the last pass itself, which a raised occurs must match.
+  const std::string last_pass =
+      strided ? "(" + first + " + (" + last + " - " + first + ") / " + stride + " * " + stride + ")" : last;
 
   std::vector<std::string> tests;
   auto test = [&](std::string t) {
@@ -330,26 +353,30 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
     test(sub + " >= 0");
     test(sub + " < (long long)(" + limit + ")");
   };
+  if (strided) test(stride + " >= 1");
   for (const SpaceUse& use : shape.uses) {
     const std::string record = record_of(use.sym);
     for (size_t d = 0; d < use.subs.size(); ++d) {
       const std::string limit = strf("%s.limit%d", record.c_str(), static_cast<int>(d + 1));
+      const bool moves = reads_var(use.subs[d]);
       std::vector<std::string> ends{wide(use.subs[d], first)};
-      if (reads_var(use.subs[d])) ends.push_back(wide(use.subs[d], last));
+      if (moves) ends.push_back(wide(use.subs[d], last));
       for (const std::string& e : ends) {
         in_range(e, limit);
-        if (use.subs.size() != 1) continue;
-        // A read of one dimension must also lie below occurs. A write
-        // raises occurs to one past the element: the copy raises it once,
-        // before it starts, to one past the highest element it will write,
-        // which for a linear subscript is the first or the last.
-        if (!use.written) {
-          in_range(e, record + ".occurs");
-        } else {
-          std::string r = strf("\nif(%s && %s + 1 > (long long)(%s.occurs))\n   (%s.occurs) = (unsigned)(%s + 1);",
-                               runs.c_str(), e.c_str(), record.c_str(), record.c_str(), e.c_str());
-          if (plan.raise.find(r) == std::string::npos) plan.raise += r;
-        }
+        // A read of one dimension must also lie below occurs.
+        if (use.subs.size() == 1 && !use.written) in_range(e, record + ".occurs");
+      }
+      if (use.subs.size() != 1 || !use.written) continue;
+      // A written element of one dimension raises occurs to one past it:
+      // the copy raises it once, before it starts, to one past the highest
+      // element it will write, which for a linear subscript is the one of
+      // the first pass or of the last.
+      std::vector<std::string> written{ends[0]};
+      if (moves) written.push_back(wide(use.subs[d], last_pass));
+      for (const std::string& e : written) {
+        std::string r = strf("\nif(%s && %s + 1 > (long long)(%s.occurs))\n   (%s.occurs) = (unsigned)(%s + 1);",
+                             runs.c_str(), e.c_str(), record.c_str(), record.c_str(), e.c_str());
+        if (plan.raise.find(r) == std::string::npos) plan.raise += r;
       }
     }
   }

@@ -46,15 +46,15 @@ generate() {  # seed -> a.yc
     print "   status = 0;\n   t = 0.0;"
     printf "   n = %d;\n   m = %d;\n", 3 + pick(6), 2 + pick(4)
     printf "   g[%d][%d] = 1.0;\n", 2 + pick(11), 2 + pick(11)
-    printf "   for (i = 0; i < %d; i++) v[i] = i;\n", 6 + pick(7)
+    printf "   for (i = 0; i < %d; i++) v[i] = i;\n", 3 + pick(8)
     print "   for (i = 0; i < 12; i++) for (j = 0; j < 12; j++) e[i][j] = (double)(i - j);"
     split("1 2 m n-3", firsts, " "); split("n n-1 m+2 7 n+1 v.occurs", bounds, " ")
-    split("j++ ++j j+=1", steps, " ")
+    split("j++|++j|j += 1|j += 2|j = j + m", steps, "|")
     loops = 2 + pick(4)
     for (l = 0; l < loops; l++) {
       printf "   i = %d;\n", 2 + pick(3)
-      a = firsts[1 + pick(4)]; b = bounds[1 + pick(6)]; s = steps[1 + pick(3)]
-      gsub(/-/, " - ", a); gsub(/[+]/, " + ", b); gsub(/-/, " - ", b); sub(/[+]=/, " += ", s)
+      a = firsts[1 + pick(4)]; b = bounds[1 + pick(6)]; s = steps[1 + pick(5)]
+      gsub(/-/, " - ", a); gsub(/[+]/, " + ", b); gsub(/-/, " - ", b)
       printf "   for (j = %s; j %s %s; %s) {\n", a, rand() < 0.5 ? "<" : "<=", b, s
       statements = 1 + pick(3)
       for (k = 0; k < statements; k++) {

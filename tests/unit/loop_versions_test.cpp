@@ -94,6 +94,15 @@ TEST(LoopVersions, AWrittenElementOfOneDimensionRaisesOccursBeforeTheCopy) {
       << body;
 }
 
+TEST(LoopVersions, AStrideMustBePositiveAndOccursRisesToTheLastPassItself) {
+  std::string body = unbroken(versioned_run("for (k = 1; k < a; k += b) v[k] = 0;"));
+  EXPECT_NE(body.find("(long long)(b) >= 1 && (long long)(k) >= 0"), std::string::npos) << body;
+  EXPECT_NE(body.find("\n   (v.occurs) = (unsigned)(((long long)(k) + (((long long)(a) - 1) - (long long)(k)) / "
+                      "(long long)(b) * (long long)(b)) + 1);\nzzzz_fast1:"),
+            std::string::npos)
+      << body;
+}
+
 // Which loops get a copy without checks: only those where the copy cannot
 // differ from the checked loop once the test before it holds.
 TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
@@ -107,6 +116,8 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
       {"for (k = 0; k < 4; k++) x = x + v[k] % 3;", 1},
       {"for (; k < a + b; k++) g[0][k] = g[1][(k)];", 1},
       {"for (k = 0; k < a; k++) for (b = 0; b < a; b++) g[k][b] = 1.0;", 1},
+      {"for (k = 0; k < a; k += 2) g[0][k] = 1.0;", 1},
+      {"for (k = 0; k < a; k = k + b) v[k] = 1;", 1},
       {"for (k = 0; k <= v.occurs; k++) { t = t + (double)v[k]; g[0][k] = t; }", 1},
       {"for (k = 0; k < a; k++) v[k] = v[k + 1];", 1},
       // What the test reads must not change in the body.
@@ -118,7 +129,9 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
       {"for (k = 0; k < a; k++) g[0][2 * k] = 1.0;", 0},
       {"for (k = 0; k < a; k++) g[0][v[k]] = 1.0;", 0},
       {"for (k = 0; k < a; k--) g[0][k] = 1.0;", 0},
-      {"for (k = 0; k < a; k += 2) g[0][k] = 1.0;", 0},
+      {"for (k = 0; k < a; k += k) g[0][k] = 1.0;", 0},
+      {"for (k = 0; k < a; k = k + b) { g[0][k] = 1.0; b = 2; }", 0},
+      {"for (k = 0; k < a; k = k - 1) g[0][k] = 1.0;", 0},
       {"for (k = 0; k > a; k++) g[0][k] = 1.0;", 0},
       {"for (k = 0; k < v.occurs - 1; k++) g[0][k] = 1.0;", 0},
       {"for (k = 0; k < v.occurs; k++) v[k] = 0;", 0},

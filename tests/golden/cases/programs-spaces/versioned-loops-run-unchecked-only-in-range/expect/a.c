@@ -202,8 +202,10 @@ static char zzzz_string3[16] = "v sum %d of %u\n";
 static struct zz1D_meta zz_zzzz_string3 = {zzzz_string3,15,16};
 static char zzzz_string4[27] = "f %d of %u, v[4] %d of %u\n";
 static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,26,27};
-static char zzzz_string5[18] = "not reached %.1f\n";
-static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,17,18};
+static char zzzz_string5[15] = "f[6] %d of %u\n";
+static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,14,15};
+static char zzzz_string6[18] = "not reached %.1f\n";
+static struct zz1D_meta zz_zzzz_string6 = {zzzz_string6,17,18};
 void *zzzz_actuals[2];
 
 zz_e.ptr = e;
@@ -588,58 +590,95 @@ if(zzzz_exception) {
    zzzz_out_of_memory(55);
    goto zzzz_finish;
 }
-j = 0;
-if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
- 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked8;
+j = 4;
+if((long long)(j) < 8 && !(2 >= 1 && (long long)(j) >= 0 && (long long)(j) 
+ < (long long)(zz_f.limit1) && (8 - 1) >= 0 && (8 - 1) < (long long)(zz_f.limit1))) 
+ goto zzzz_checked8;
+if((long long)(j) < 8 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((long long)(j) + 1);
+if((long long)(j) < 8 && ((long long)(j) + ((8 - 1) - (long long)(j)) / 2 
+ * 2) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)(((long long)(j) + ((8 - 1) - (long long)(j)) 
+ / 2 * 2) + 1);
 zzzz_fast8:
-if(!(j < 4)) goto zzzz_false11;
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
-zzzz_int1 = j;
-j++;
+if(!(j < 8)) goto zzzz_false11;
+(*(((int *)(zz_f.ptr)) + ((j)))) = -j;
+j += 2;
 goto zzzz_fast8;
 zzzz_checked8:
 zzzz_cont22:
-if(!(j < 4)) goto zzzz_false11;
-if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
- (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 58, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
-  (unsigned)(zz_e.limit2));
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+if(!(j < 8)) goto zzzz_false11;
+if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
+   zzzz_bounds_exceeded("f", 58, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
+if((unsigned)(j) + 1 > (zz_f.occurs))
+   (zz_f.occurs) = (unsigned)(j) + 1;
+(*(((int *)(zz_f.ptr)) + ((j)))) = -j;
 zzzz_cont21:
-zzzz_int1 = j;
-j++;
+j += 2;
 goto zzzz_cont22;
 zzzz_false11:
-t = 0.0;
+if((signed)(6) < 0 || (unsigned)(6) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 59, 2, (unsigned)(6), (unsigned)(zz_f.occurs));
+zzzz_actuals[0] = &(zzzz_exception);
+zzzz_actuals[1] = &(zzzz_int1);
+_yc__printf(zzzz_actuals, &(zz_zzzz_string5), (*(((int *)(zz_f.ptr)) + ((6)))),
+  zz_f.occurs);
+if(zzzz_exception) {
+   zzzz_out_of_memory(59);
+   goto zzzz_finish;
+}
 j = 0;
-if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
- (4) < (long long)(zz_e.limit2))) goto zzzz_checked9;
+if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
+ 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked9;
 zzzz_fast9:
-if(!(j <= 4)) goto zzzz_false12;
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+if(!(j < 4)) goto zzzz_false12;
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
 zzzz_int1 = j;
 j++;
 goto zzzz_fast9;
 zzzz_checked9:
 zzzz_cont24:
-if(!(j <= 4)) goto zzzz_false12;
+if(!(j < 4)) goto zzzz_false12;
 if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
  (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 61, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+   zzzz_bounds_exceeded("e", 62, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
   (unsigned)(zz_e.limit2));
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
 zzzz_cont23:
 zzzz_int1 = j;
 j++;
 goto zzzz_cont24;
 zzzz_false12:
+t = 0.0;
+j = 0;
+if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
+ (4) < (long long)(zz_e.limit2))) goto zzzz_checked10;
+zzzz_fast10:
+if(!(j <= 4)) goto zzzz_false13;
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_int1 = j;
+j++;
+goto zzzz_fast10;
+zzzz_checked10:
+zzzz_cont26:
+if(!(j <= 4)) goto zzzz_false13;
+if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
+ (unsigned)(j) >= (zz_e.limit2))
+   zzzz_bounds_exceeded("e", 65, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+  (unsigned)(zz_e.limit2));
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_cont25:
+zzzz_int1 = j;
+j++;
+goto zzzz_cont26;
+zzzz_false13:
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string5), (double)(t));
+_yc__printf(zzzz_actuals, &(zz_zzzz_string6), (double)(t));
 if(zzzz_exception) {
-   zzzz_out_of_memory(62);
+   zzzz_out_of_memory(66);
    goto zzzz_finish;
 }
 
