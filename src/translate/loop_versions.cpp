@@ -1,13 +1,14 @@
-// --versioned-loops: an innermost for loop that steps an int variable by one
-// and whose body only assigns arithmetic values to scalars and to elements
-// of spaces is written twice. Every subscript in such a body is the loop
-// variable plus or minus invariant terms, or invariant: a linear function
-// of the loop variable. So when every subscript lies in range on the first
-// pass and on the last, it lies in range on every pass between, no element
-// is written past a limit, and nothing can grow. A test before the loop
-// decides that from the space records, once per entry: the copy without
-// checks runs when it holds, the checked loop as always otherwise, so every
-// report and every growth happens exactly where it did.
+// --versioned-loops: an innermost for loop that steps an int variable
+// upward and whose body only assigns arithmetic values to scalars and to
+// elements of spaces is written twice. Every subscript in such a body is the
+// loop variable plus or minus invariant terms, or invariant: a linear
+// function of the loop variable. The passes lie between the first value and
+// the last one the bound allows, so when every subscript lies in range at
+// those two ends it lies in range on every pass, no element is written past
+// a limit and nothing can grow. A test before the loop decides that from the
+// space records, once per entry: the copy without checks runs when it
+// holds, the checked loop as always otherwise, so every report and every
+// growth happens exactly where it did.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -41,12 +42,12 @@ class LoopShape {
   // `at` is the index of the `for` keyword.
   bool read(size_t at);
 
-  int var = 0;         // the loop variable
-  Span bound;          // the condition's right side
-  int bound_space = 0;  // or the one-dimensional space whose occurs it is
+  int var = 0;             // the loop variable
+  Span bound;              // the condition's right side
+  int bound_space = 0;     // or the one-dimensional space whose occurs it is
   bool inclusive = false;  // `<=` rather than `<`
-  Span stride;         // `v += stride` or `v = v + stride`; empty for a step of one
-  int statements = 0;  // assignments in the body
+  Span stride;             // of `v += s` or `v = v + s`; empty for a step of one
+  int statements = 0;      // assignments in the body
   std::vector<SpaceUse> uses;
 
  private:
@@ -56,6 +57,11 @@ class LoopShape {
   // A variable of an arithmetic type (neither a structure nor a fun type).
   int arithmetic_variable(size_t i) const;
   int int_variable(size_t i) const;
+  // A decimal constant of at most six digits, so that sums stay small.
+  bool small_decimal(size_t i) const {
+    std::string_view d = toks_[i].text();
+    return tok(i) == T_DECIMALINT && d.size() <= 6 && d.find_first_not_of("0123456789") == std::string_view::npos;
+  }
   bool linear(int stop, Span& s);
   bool subscripts(int sym, bool written);
   bool value();
@@ -102,8 +108,7 @@ bool LoopShape::linear(int stop, Span& s) {
         }
         operand = false;
       } else if (t == T_DECIMALINT) {
-        std::string_view d = toks_[p_].text();
-        if (d.size() > 6 || d.find_first_not_of("0123456789") != std::string_view::npos) return false;
+        if (!small_decimal(p_)) return false;
         operand = false;
       } else if (t == T_LPARENTHESIS) {
         ++depth;
@@ -264,11 +269,11 @@ bool LoopShape::read(size_t at_for) {
       int s = int_variable(p_);
       if (!s || s == var) return false;
       invariant_.push_back(s);
-    } else if (!at(T_DECIMALINT) || toks_[p_].text().size() > 6 ||
-               toks_[p_].text().find_first_not_of("0123456789") != std::string_view::npos) {
+    } else if (!small_decimal(p_)) {
       return false;
+    } else if (toks_[p_].text() == "1") {
+      stride = {};
     }
-    if (tok(p_) == T_DECIMALINT && toks_[p_].text() == "1") stride = {};
     ++p_;
   } else {
     return false;
