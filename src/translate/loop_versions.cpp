@@ -1,5 +1,5 @@
 // --versioned-loops: an innermost for loop that steps an int variable
-// upward and whose body only assigns arithmetic values to scalars and to
+// toward its bound and whose body only assigns arithmetic values to scalars and to
 // elements of spaces is written twice. Every subscript in such a body is the
 // loop variable plus or minus invariant terms, or invariant: a linear
 // function of the loop variable. The passes lie between the first value and
@@ -45,7 +45,8 @@ class LoopShape {
   int var = 0;             // the loop variable
   Span bound;              // the condition's right side
   int bound_space = 0;     // or the one-dimensional space whose occurs it is
-  bool inclusive = false;  // `<=` rather than `<`
+  bool inclusive = false;  // `<=` or `>=` rather than `<` or `>`
+  bool descending = false; // `v > bound` or `v >= bound`, stepped by `--`
   Span stride;             // of `v += s` or `v = v + s`; empty for a step of one
   int statements = 0;      // assignments in the body
   std::vector<SpaceUse> uses;
@@ -222,7 +223,7 @@ bool LoopShape::assignment() {
 }
 
 bool LoopShape::read(size_t at_for) {
-  // for ( init ; v < bound ; v++ )
+  // for ( init ; v < bound ; v++ ), or counting down to v > bound
   p_ = at_for + 1;
   if (!at(T_LPARENTHESIS)) return false;
   ++p_;
@@ -235,10 +236,14 @@ bool LoopShape::read(size_t at_for) {
   var = int_variable(p_);
   if (!var) return false;
   ++p_;
-  if (!at(T_LESSTHAN) && !at(T_LESSTHANOREQUALTO)) return false;
-  inclusive = at(T_LESSTHANOREQUALTO);
+  if (!at(T_LESSTHAN) && !at(T_LESSTHANOREQUALTO) && !at(T_GREATERTHAN) && !at(T_GREATERTHANOREQUALTO))
+    return false;
+  inclusive = at(T_LESSTHANOREQUALTO) || at(T_GREATERTHANOREQUALTO);
+  descending = at(T_GREATERTHAN) || at(T_GREATERTHANOREQUALTO);
   ++p_;
-  if (tok(p_) == T_IDENTIFIER && tok(p_ + 1) == T_DOT && tok(p_ + 2) == T_OCCURS && tok(p_ + 3) == T_SEMICOLON) {
+  // Counting down to occurs, C's unsigned comparison would keep running
+  // below zero.
+  if (!descending && tok(p_) == T_IDENTIFIER && tok(p_ + 1) == T_DOT && tok(p_ + 2) == T_OCCURS && tok(p_ + 3) == T_SEMICOLON) {
     // `v < x.occurs`, alone: C compares in unsigned, which never runs
     // more passes than the exact comparison does; a difference such as
     // `x.occurs - 1` would wrap below zero.
@@ -253,14 +258,15 @@ bool LoopShape::read(size_t at_for) {
     if (tok(i) == T_IDENTIFIER && int_variable(i) == var) return false;
   ++p_;
   // The step: ++v, v++, v += s or v = v + s, where s is an int variable
-  // or a constant (the test before the loop asks s >= 1). The passes then
-  // lie between the first value and the bound, so the ends still bound
-  // every subscript.
-  if (at(T_PLUSPLUS) && int_variable(p_ + 1) == var) {
+  // or a constant (the test before the loop asks s >= 1), or --v and v--
+  // counting down. The passes then lie between the first value and the
+  // bound, so the ends still bound every subscript.
+  const int one_step = descending ? T_MINUSMINUS : T_PLUSPLUS;
+  if (at(one_step) && int_variable(p_ + 1) == var) {
     p_ += 2;
-  } else if (int_variable(p_) == var && tok(p_ + 1) == T_PLUSPLUS) {
+  } else if (int_variable(p_) == var && tok(p_ + 1) == one_step) {
     p_ += 2;
-  } else if (int_variable(p_) == var && (tok(p_ + 1) == T_PLUSEQUAL ||
+  } else if (!descending && int_variable(p_) == var && (tok(p_ + 1) == T_PLUSEQUAL ||
                                          (tok(p_ + 1) == T_ASSIGNEQUAL && int_variable(p_ + 2) == var &&
                                           tok(p_ + 3) == T_PLUS))) {
     p_ += tok(p_ + 1) == T_PLUSEQUAL ? 2 : 4;
@@ -342,8 +348,11 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
   const std::string bound =
       shape.bound_space ? "(long long)(" + record_of(shape.bound_space) + ".occurs)" : wide(shape.bound, "");
   const std::string first = "(long long)(" + var + ")";
-  const std::string last = shape.inclusive ? "(" + bound + ")" : "(" + bound + " - 1)";
-  const std::string runs = first + (shape.inclusive ? " <= " : " < ") + bound;
+  const std::string last = shape.inclusive    ? "(" + bound + ")"
+                           : shape.descending ? "(" + bound + " + 1)"
+                                              : "(" + bound + " - 1)";
+  const std::string runs = first + (shape.descending ? (shape.inclusive ? " >= " : " > ")
+                                                     : (shape.inclusive ? " <= " : " < ")) + bound;
   const bool strided = shape.stride.end > shape.stride.begin;
   const std::string stride = strided ? wide(shape.stride, "") : std::string();
   // The value of the last pass itself, which a raised occurs must match.

@@ -55,7 +55,13 @@ generate() {  # seed -> a.yc
       printf "   i = %d;\n", 2 + pick(3)
       a = firsts[1 + pick(4)]; b = bounds[1 + pick(6)]; s = steps[1 + pick(5)]
       gsub(/-/, " - ", a); gsub(/[+]/, " + ", b); gsub(/-/, " - ", b)
-      printf "   for (j = %s; j %s %s; %s) {\n", a, rand() < 0.5 ? "<" : "<=", b, s
+      rel = rand() < 0.5 ? "<" : "<="
+      if (rand() < 0.3) {  # counting down
+        split("n|n + 1|m + 2|7", tops, "|"); split("0|1|m - 1|2", bottoms, "|")
+        a = tops[1 + pick(4)]; b = bottoms[1 + pick(4)]; s = rand() < 0.5 ? "j--" : "--j"
+        rel = rand() < 0.5 ? ">" : ">="
+      }
+      printf "   for (j = %s; j %s %s; %s) {\n", a, rel, b, s
       statements = 1 + pick(3)
       for (k = 0; k < statements; k++) {
         kind = rand()

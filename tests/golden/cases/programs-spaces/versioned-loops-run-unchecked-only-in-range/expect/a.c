@@ -204,8 +204,10 @@ static char zzzz_string4[27] = "f %d of %u, v[4] %d of %u\n";
 static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,26,27};
 static char zzzz_string5[15] = "f[6] %d of %u\n";
 static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,14,15};
-static char zzzz_string6[18] = "not reached %.1f\n";
-static struct zz1D_meta zz_zzzz_string6 = {zzzz_string6,17,18};
+static char zzzz_string6[15] = "f[7] %d of %u\n";
+static struct zz1D_meta zz_zzzz_string6 = {zzzz_string6,14,15};
+static char zzzz_string7[18] = "not reached %.1f\n";
+static struct zz1D_meta zz_zzzz_string7 = {zzzz_string7,17,18};
 void *zzzz_actuals[2];
 
 zz_e.ptr = e;
@@ -627,58 +629,102 @@ if(zzzz_exception) {
    zzzz_out_of_memory(59);
    goto zzzz_finish;
 }
-j = 0;
-if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
- 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked9;
+j = 7;
+if((long long)(j) > 5 && !((long long)(j) >= 0 && (long long)(j) < (long 
+ long)(zz_f.limit1) && (5 + 1) >= 0 && (5 + 1) < (long long)(zz_f.limit1) 
+ && (long long)(j) - 2 >= 0 && (long long)(j) - 2 < (long long)(zz_f.limit1) 
+ && (long long)(j) - 2 < (long long)(zz_f.occurs) && (5 + 1) - 2 >= 0 && 
+ (5 + 1) - 2 < (long long)(zz_f.limit1) && (5 + 1) - 2 < (long long)(zz_f.occurs))) 
+ goto zzzz_checked9;
+if((long long)(j) > 5 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((long long)(j) + 1);
+if((long long)(j) > 5 && (5 + 1) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((5 + 1) + 1);
 zzzz_fast9:
-if(!(j < 4)) goto zzzz_false12;
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+if(!(j > 5)) goto zzzz_false12;
+(*(((int *)(zz_f.ptr)) + ((j)))) = (*(((int *)(zz_f.ptr)) + ((j - 2)))) + 
+ 100;
 zzzz_int1 = j;
-j++;
+j--;
 goto zzzz_fast9;
 zzzz_checked9:
 zzzz_cont24:
-if(!(j < 4)) goto zzzz_false12;
-if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
- (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 62, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
-  (unsigned)(zz_e.limit2));
-(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
+if(!(j > 5)) goto zzzz_false12;
+if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
+   zzzz_bounds_exceeded("f", 62, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
+if((unsigned)(j) + 1 > (zz_f.occurs))
+   (zz_f.occurs) = (unsigned)(j) + 1;
+if((signed)(j - 2) < 0 || (unsigned)(j - 2) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 62, 2, (unsigned)(j - 2), (unsigned)(zz_f.occurs));
+(*(((int *)(zz_f.ptr)) + ((j)))) = (*(((int *)(zz_f.ptr)) + ((j - 2)))) + 
+ 100;
 zzzz_cont23:
 zzzz_int1 = j;
-j++;
+j--;
 goto zzzz_cont24;
 zzzz_false12:
-t = 0.0;
+if((signed)(7) < 0 || (unsigned)(7) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 63, 2, (unsigned)(7), (unsigned)(zz_f.occurs));
+zzzz_actuals[0] = &(zzzz_exception);
+zzzz_actuals[1] = &(zzzz_int1);
+_yc__printf(zzzz_actuals, &(zz_zzzz_string6), (*(((int *)(zz_f.ptr)) + ((7)))),
+  zz_f.occurs);
+if(zzzz_exception) {
+   zzzz_out_of_memory(63);
+   goto zzzz_finish;
+}
 j = 0;
-if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
- (4) < (long long)(zz_e.limit2))) goto zzzz_checked10;
+if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
+ 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked10;
 zzzz_fast10:
-if(!(j <= 4)) goto zzzz_false13;
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+if(!(j < 4)) goto zzzz_false13;
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
 zzzz_int1 = j;
 j++;
 goto zzzz_fast10;
 zzzz_checked10:
 zzzz_cont26:
-if(!(j <= 4)) goto zzzz_false13;
+if(!(j < 4)) goto zzzz_false13;
 if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
  (unsigned)(j) >= (zz_e.limit2))
-   zzzz_bounds_exceeded("e", 65, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+   zzzz_bounds_exceeded("e", 66, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
   (unsigned)(zz_e.limit2));
-t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+(*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
 zzzz_cont25:
 zzzz_int1 = j;
 j++;
 goto zzzz_cont26;
 zzzz_false13:
+t = 0.0;
+j = 0;
+if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
+ long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
+ (4) < (long long)(zz_e.limit2))) goto zzzz_checked11;
+zzzz_fast11:
+if(!(j <= 4)) goto zzzz_false14;
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_int1 = j;
+j++;
+goto zzzz_fast11;
+zzzz_checked11:
+zzzz_cont28:
+if(!(j <= 4)) goto zzzz_false14;
+if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
+ (unsigned)(j) >= (zz_e.limit2))
+   zzzz_bounds_exceeded("e", 69, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
+  (unsigned)(zz_e.limit2));
+t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
+zzzz_cont27:
+zzzz_int1 = j;
+j++;
+goto zzzz_cont28;
+zzzz_false14:
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string6), (double)(t));
+_yc__printf(zzzz_actuals, &(zz_zzzz_string7), (double)(t));
 if(zzzz_exception) {
-   zzzz_out_of_memory(66);
+   zzzz_out_of_memory(70);
    goto zzzz_finish;
 }
 
