@@ -17,20 +17,6 @@ namespace {
 // The nested spaces one variable may hold.
 constexpr int walk_part_limit = 100000;
 
-int keyword_bit(int tok) {
-  switch (tok) {
-    case T_CHAR: return TB_CHAR;
-    case T_SHORT: return TB_SHORT;
-    case T_INT: return TB_INT;
-    case T_LONG: return TB_LONG;
-    case T_FLOAT: return TB_FLOAT;
-    case T_DOUBLE: return TB_DOUBLE;
-    case T_SIGNED: return TB_SIGNED;
-    case T_UNSIGNED: return TB_UNSIGNED;
-  }
-  return 0;
-}
-
 const char* tag_word(TagKind kind) {
   switch (kind) {
     case TagKind::Struct: return "struct";

@@ -1,5 +1,7 @@
 #include "decl/type_keywords.h"
 
+#include "front/token.h"
+
 namespace ycc {
 
 namespace {
@@ -48,6 +50,20 @@ std::string type_words(int bits) {
   }
   if (!out.empty()) out.pop_back();
   return out;
+}
+
+int keyword_bit(int tok) {
+  switch (tok) {
+    case T_CHAR: return TB_CHAR;
+    case T_SHORT: return TB_SHORT;
+    case T_INT: return TB_INT;
+    case T_LONG: return TB_LONG;
+    case T_FLOAT: return TB_FLOAT;
+    case T_DOUBLE: return TB_DOUBLE;
+    case T_SIGNED: return TB_SIGNED;
+    case T_UNSIGNED: return TB_UNSIGNED;
+  }
+  return 0;
 }
 
 }  // namespace ycc

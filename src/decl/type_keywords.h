@@ -26,4 +26,7 @@ std::string type_words(int bits);
 // The keyword of one bit ("char").
 const char* type_keyword(int bit);
 
+// The bit of a type keyword token, 0 for any other token.
+int keyword_bit(int tok);
+
 }  // namespace ycc

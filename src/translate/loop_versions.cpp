@@ -173,9 +173,7 @@ bool LoopShape::value() {
           break;
         case T_LPARENTHESIS: {
           size_t k = p_ + 1;
-          while (tok(k) == T_CHAR || tok(k) == T_SHORT || tok(k) == T_INT || tok(k) == T_LONG ||
-                 tok(k) == T_FLOAT || tok(k) == T_DOUBLE || tok(k) == T_SIGNED || tok(k) == T_UNSIGNED)
-            ++k;
+          while (keyword_bit(tok(k))) ++k;
           if (k == p_ + 1) {
             ++depth;
           } else {
@@ -306,9 +304,6 @@ bool LoopShape::read(size_t at_for) {
   return true;
 }
 
-// The C text of a variable, as its references write it.
-std::string variable_text(const Symbol& s) { return clashes_with_c_headers(s.name) ? c_name(s.name) : s.name; }
-
 }  // namespace
 
 FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword) {
@@ -318,7 +313,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
   LoopShape shape(toks, symbols_);
   if (at >= toks.size() || !shape.read(at)) return plan;
 
-  const std::string var = variable_text(symbols_[shape.var]);
+  const std::string var = c_name(symbols_[shape.var].name);
   // A linear span in long long, so that the test itself cannot overflow;
   // `var_value` stands for the loop variable.
   auto wide = [&](Span s, const std::string& var_value) {
@@ -328,7 +323,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
       if (!t.empty() && k.tok != T_RPARENTHESIS && t.back() != '(') t += ' ';
       if (k.tok == T_IDENTIFIER) {
         int v = symbols_.find_other('o', k.text(), 0);
-        t += v == shape.var ? var_value : "(long long)(" + variable_text(symbols_[v]) + ")";
+        t += v == shape.var ? var_value : "(long long)(" + c_name(symbols_[v].name) + ")";
       } else {
         t += k.text();
       }
@@ -340,11 +335,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
       if (toks[i].tok == T_IDENTIFIER && symbols_.find_other('o', toks[i].text(), 0) == shape.var) return true;
     return false;
   };
-  auto record_of = [&](int sym) {
-    const Symbol& s = symbols_[sym];
-    const std::string name = variable_text(s);
-    return s.p_or_r == 'p' || s.p_or_r == 'r' ? "(*" + name + ")" : s.is_var == 'y' ? name : names_.companion(s.name);
-  };
+  auto record_of = [&](int sym) { return own_record(sym, c_name(symbols_[sym].name)); };
   const std::string bound =
       shape.bound_space ? "(long long)(" + record_of(shape.bound_space) + ".occurs)" : wide(shape.bound, "");
   const std::string first = "(long long)(" + var + ")";

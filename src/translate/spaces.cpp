@@ -55,12 +55,12 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   int t = symbols_.resolve_type(s.type_sym);
   bool structure = t && symbols_[t].name_is == 's';
   if (s.dim_count() > 0) {
-    if (pointer)
-      r.record = "(*" + c_text + ")";
+    if (container.empty())
+      r.record = own_record(sym, c_text);
     else if (s.is_var == 'y')
       r.record = c_text;
     else
-      r.record = container.empty() ? names_.companion(s.name) : container + "." + names_.companion(s.name);
+      r.record = container + "." + names_.companion(s.name);
     e.value = r.record;
     if (s.is_var == 'n' && !container.empty() && r.heap) {
       // A structure in a varspace's block moves when the block grows, and
@@ -87,6 +87,12 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   e.dims = s.dim_count();
   e.partial = false;
   e.lvalue = true;
+}
+
+std::string Translator::own_record(int sym, std::string_view c_text) const {
+  const Symbol& s = symbols_[sym];
+  if (s.p_or_r == 'p' || s.p_or_r == 'r') return "(*" + std::string(c_text) + ")";
+  return s.is_var == 'y' ? std::string(c_text) : names_.companion(s.name);
 }
 
 std::string Translator::subscript_source(const Token& lbracket) const {

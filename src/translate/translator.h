@@ -188,6 +188,9 @@ class Translator {
 
   // ---- Space references (spaces.cpp) ----
   void enter_component(Operand& e, Reference& r, int sym, const std::string& container);
+  // The record of space `sym` named on its own, `c_text` being its C name:
+  // parameters and returns arrive as pointers, fixed-spaces have companions.
+  std::string own_record(int sym, std::string_view c_text) const;
   // Checks and addresses the subscripts given to the current component.
   void finish_component(Operand& e);
   bool this_used(const Reference& r) const;

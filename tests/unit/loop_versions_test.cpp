@@ -30,10 +30,10 @@ std::string unbroken(std::string body) {
   return body;
 }
 
+// The copies without checks: each begins with its label on a line.
 int copies(const std::string& body) {
   int n = 0;
-  for (size_t at = body.find("zzzz_fast"); at != std::string::npos; at = body.find("zzzz_fast", at + 1))
-    if (body.compare(at, 11, "zzzz_fast1:") == 0 || body.compare(at, 11, "zzzz_fast2:") == 0) ++n;
+  for (size_t at = body.find("\nzzzz_fast"); at != std::string::npos; at = body.find("\nzzzz_fast", at + 1)) ++n;
   return n;
 }
 
