@@ -384,11 +384,13 @@ void Lexer::line_directive_step() {
 void Lexer::normal_step() {
   const char* d = s_.data();
   // Blanks between tokens, the commonest bytes, are passed without a dispatch;
-  // the text ends in a NUL that stops the run.
-  while (d[pos_] == ' ' || d[pos_] == '\t') ++pos_;
-  if (pos_ >= s_.size()) return;
-  char c = d[pos_];
+  // the text ends in a NUL that stops the run. The scans run on locals, which
+  // the stores of tokens cannot alias.
   size_t begin = pos_;
+  while (d[begin] == ' ' || d[begin] == '\t') ++begin;
+  pos_ = begin;
+  if (begin >= s_.size()) return;
+  char c = d[begin];
   switch (byte_class(c)) {
     case ByteClass::newline:
       newline_in_normal();
@@ -396,8 +398,10 @@ void Lexer::normal_step() {
     case ByteClass::blank:  // passed above
       return;
     case ByteClass::ident: {
-      while (ident_byte(d[pos_])) ++pos_;
-      std::string_view word = s_.substr(begin, pos_ - begin);
+      size_t end = begin + 1;
+      while (ident_byte(d[end])) ++end;
+      pos_ = end;
+      std::string_view word(d + begin, end - begin);
       emit(spellings_.keyword(word), word);
       return;
     }

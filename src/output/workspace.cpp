@@ -1,7 +1,10 @@
 #include "output/workspace.h"
 
 #include <algorithm>
+#include <bit>
 #include <cerrno>
+#include <cstdint>
+#include <cstring>
 
 #include "common/text.h"
 
@@ -10,6 +13,24 @@ namespace ycc {
 namespace {
 
 const char source_name[] = "yc";
+
+// The first byte in [i, end) that is a newline or a quote, or end. Eight
+// bytes at a time: a zero byte of x ^ pattern marks a match, and the lowest
+// marked byte is always a true one.
+size_t next_break(const char* text, size_t i, size_t end) {
+  if constexpr (std::endian::native == std::endian::little) {
+    constexpr std::uint64_t ones = 0x0101010101010101u, highs = 0x8080808080808080u;
+    auto zero_bytes = [](std::uint64_t y) { return (y - ones) & ~y & highs; };
+    for (; i + 8 <= end; i += 8) {
+      std::uint64_t x;
+      std::memcpy(&x, text + i, 8);
+      std::uint64_t hits = zero_bytes(x ^ (ones * '\n')) | zero_bytes(x ^ (ones * '\'')) | zero_bytes(x ^ (ones * '"'));
+      if (hits) return i + static_cast<size_t>(std::countr_zero(hits)) / 8;
+    }
+  }
+  while (i < end && text[i] != '\n' && text[i] != '\'' && text[i] != '"') ++i;
+  return i;
+}
 
 }  // namespace
 
@@ -91,8 +112,8 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
       // Outside literals, bytes before the width is passed, a newline or a
       // quote cannot break the line or change the state: one append.
       size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
-      size_t end = std::min(text.size(), i + room), j = i;
-      while (j < end && text[j] != '\n' && text[j] != '\'' && text[j] != '"') ++j;
+      size_t end = std::min(text.size(), i + room);
+      size_t j = next_break(text.data(), i, end);
       // A newline outside literals only starts the next line: taken with the run.
       bool newline = j < text.size() && text[j] == '\n';
       if (j > i || newline) {

@@ -280,6 +280,18 @@ INSTANTIATE_TEST_SUITE_P(
         BreakCase{"newline_resets_the_column", std::string(70, 'x') + "\n" + repeat("b ", 3),
                   std::string(70, 'x') + "\n" + repeat("b ", 3)}));
 
+// Newlines and quotes are found eight bytes at a time: at every offset the
+// newline must reset the column and the quote must open the literal.
+TEST(WorkspaceWriter, NewlineAndQuoteAtEveryOffset) {
+  const std::string literal = "s = \"" + repeat("a, ", 30) + "\\\"\", t, u;";
+  const std::string broken = "s = \"" + repeat("a, ", 30) + "\\\"\",\n  t, u;";
+  for (int k = 0; k < 20; ++k) {
+    Fixture f;
+    f.make().put_text('n', std::string(static_cast<size_t>(k), 'x') + "\n" + literal);
+    EXPECT_EQ(f.work_text(), std::string(static_cast<size_t>(k), 'x') + "\n" + broken) << k;
+  }
+}
+
 TEST(WorkspaceWriter, IndentationPrefixSetsTheColumn) {
   Fixture f;
   Workspace& ws = f.make();
