@@ -92,18 +92,22 @@ void CompileSession::compile(const Options& options, Diagnostics& diag,
       strf(" compilation of '%s' halted\n ** too many errors **\n", source.c_str());
   bool was_halted = false;
   int end_line = 0;  // where the lexer stood at the end of the file
-  try {
-    TokenBuffer tokens = tokenize(std::move(*text), diag.files(), diag.err());
-    end_line = tokens.tokens.back().line;
+  {
+    // The listing of tokens needs them all at once.
+    TokenBuffer tokens = options.dump_tokens ? tokenize(std::move(*text), diag.files(), diag.err())
+                                             : tokenize_as_read(std::move(*text), diag.files(), diag.err());
     if (options.dump_tokens) dump_tokens(tokens, diag.err());
-    SyntaxErrors syntax(diag);
-    ParseContext ctx{options, diag, tokens, syntax, ws, prefix};
-    run_start_rule(ctx);
-    ++files_compiled_;
-  } catch (const CompileHalt&) {
-    diag.flush();
-    diag.err() << halted;
-    was_halted = true;
+    try {
+      SyntaxErrors syntax(diag);
+      ParseContext ctx{options, diag, tokens, syntax, ws, prefix};
+      run_start_rule(ctx);
+      ++files_compiled_;
+    } catch (const CompileHalt&) {
+      diag.flush();
+      diag.err() << halted;
+      was_halted = true;
+    }
+    end_line = tokens.tokens.back().line;
   }
 
   if (ws.nothing_emitted()) {

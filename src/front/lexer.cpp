@@ -10,6 +10,7 @@
 #include <array>
 
 #include <climits>
+#include <cstddef>
 #include <cstdint>
 #include <new>
 #include <unordered_map>
@@ -18,28 +19,31 @@
 
 namespace ycc {
 
-void TokenBuffer::index_extern_ranges() {
+void ExternRanges::index() {
   std::vector<std::pair<int, int>> v;
-  for (size_t i = 0; i + 1 < extern_ranges.size(); ++i) {
-    long long lo = extern_ranges[i].begin, hi = extern_ranges[i + 1].end;
+  for (size_t i = 0; i + 1 < ranges.size(); ++i) {
+    long long lo = ranges[i].begin, hi = ranges[i + 1].end;
     if (lo + 1 < hi) v.emplace_back(static_cast<int>(lo), static_cast<int>(hi));
   }
   std::sort(v.begin(), v.end());
-  extern_intervals_.clear();
+  intervals.clear();
   for (const auto& r : v) {
     // (a, b) and (c, d) with c < b hold together every line of (a, max(b, d)).
-    if (!extern_intervals_.empty() && r.first < extern_intervals_.back().second)
-      extern_intervals_.back().second = std::max(extern_intervals_.back().second, r.second);
+    if (!intervals.empty() && r.first < intervals.back().second)
+      intervals.back().second = std::max(intervals.back().second, r.second);
     else
-      extern_intervals_.push_back(r);
+      intervals.push_back(r);
   }
 }
 
 bool TokenBuffer::in_extern_range(int line) const {
+  if (!extern_pragmas) return false;
+  tokens.finish();
+  const std::vector<std::pair<int, int>>& v = extern_ranges->intervals;
   // The last interval that begins below the line is the only one that can hold it.
-  auto after = std::upper_bound(extern_intervals_.begin(), extern_intervals_.end(), line,
+  auto after = std::upper_bound(v.begin(), v.end(), line,
                                 [](int l, const std::pair<int, int>& r) { return l <= r.first; });
-  if (after == extern_intervals_.begin()) return false;
+  if (after == v.begin()) return false;
   return line < std::prev(after)->second;
 }
 
@@ -145,27 +149,19 @@ constexpr std::array<ByteClass, 256> byte_classes = [] {
 }();
 inline ByteClass byte_class(char c) { return byte_classes[static_cast<unsigned char>(c)]; }
 
-class Lexer {
+class Lexer final : public TokenSource {
  public:
-  // The lexer takes the text over: every token's text is a view into it,
-  // so a token costs no copy.
-  Lexer(std::string text, FileTable& files, std::ostream& err) : files_(files), err_(err) {
-    try {
-      // The text's own block, never a string's inner buffer, so that moving
-      // the string to the token buffer keeps the views valid.
-      store_ = std::move(text);
-      store_.reserve(std::max<size_t>(store_.size(), 16));
-      // Room for a token every two bytes, which ordinary text stays under:
-      // pages never touched cost nothing, and no growth copies the tokens.
-      tokens_.reserve(store_.size() / 2 + 16);
-    } catch (const std::bad_alloc&) {
-      throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
-                                    static_cast<int>(std::min<size_t>(store_.size() + 1, INT_MAX)))};
-    }
-    s_ = std::string_view(store_.data(), store_.size());
+  // Every token's text is a view into `text`, which ends in a NUL. Tokens go
+  // to `store`, extern ranges to `ranges`; `err` takes the reports.
+  Lexer(std::string_view text, TokenStore& store, ExternRanges& ranges, FileTable& files, std::ostream& err)
+      : s_(text), files_(files), err_(err), store_(store), ranges_(ranges.ranges), extern_(ranges) {
+    line_start();
   }
 
-  TokenBuffer run();
+  void produce(std::size_t index) override;
+
+  // Tokens made ahead of the one asked for, so that requests are few.
+  static constexpr std::size_t ahead = 256;
 
  private:
   enum class Mode { normal, line_directive };
@@ -189,7 +185,6 @@ class Lexer {
   }
   void emit(int tok, size_t begin, size_t end) { emit(tok, s_.substr(begin, end - begin)); }
   inline void emit(int tok, std::string_view text);
-  void grow_tokens();
 
   void normal_step();
   void line_directive_step();
@@ -221,25 +216,18 @@ class Lexer {
   std::int64_t line_ = 0;
   int line_code_ = 0;  // line_ as tokens carry it
   const Spellings& spellings_ = spellings();
-  std::vector<ExternRange> ranges_;
+  TokenStore& store_;
+  std::vector<ExternRange>& ranges_;
+  ExternRanges& extern_;
   size_t current_range_ = 0;
-  std::vector<Token> tokens_;
-  std::string store_;  // ends in the string's NUL, which stops every scan
 };
 
 void Lexer::emit(int tok, std::string_view text) {
-  // The room reserved up front almost always suffices; growth is the rare path.
-  if (tokens_.size() == tokens_.capacity()) [[unlikely]]
-    grow_tokens();
-  tokens_.push_back({text, tok, line_code()});
-}
-
-void Lexer::grow_tokens() {
-  auto count = [](size_t n) { return static_cast<int>(std::min<size_t>(n, INT_MAX)); };
   try {
-    tokens_.reserve(tokens_.capacity() * 2 + 16);
+    store_.append(Token(text, tok, line_code()));
   } catch (const std::bad_alloc&) {
-    throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n", count(tokens_.size() + 1))};
+    throw TokenBufferFailure{strf("cannot allocate token buffer (%d tokens)\n",
+                                  static_cast<int>(std::min<size_t>(store_.count + 1, INT_MAX)))};
   }
 }
 
@@ -448,28 +436,69 @@ void Lexer::normal_step() {
   }
 }
 
-TokenBuffer Lexer::run() {
-  line_start();
-  while (pos_ < s_.size()) {
+void Lexer::produce(std::size_t index) {
+  const std::size_t want = index < SIZE_MAX - ahead ? index + ahead : SIZE_MAX;
+  while (pos_ < s_.size() && store_.count <= want) {
     if (mode_ == Mode::normal)
       normal_step();
     else
       line_directive_step();
   }
-  emit(T_Eof, std::string_view());
-  TokenBuffer out;
-  // Moving the vector keeps its block, so the token views stay valid.
-  out.text_store = std::move(store_);
-  out.tokens = std::move(tokens_);
-  out.extern_ranges = std::move(ranges_);
-  out.index_extern_ranges();
-  return out;
+  if (pos_ >= s_.size() && !store_.ended) {
+    emit(T_Eof, std::string_view());
+    store_.ended = true;
+    extern_.index();
+  }
+}
+
+// Takes the text over, in a block of its own (never a string's inner
+// buffer, which moves with the string) that ends in the string's NUL, which
+// stops every scan.
+void take_text(TokenBuffer& b, std::string text) {
+  try {
+    b.text_store = std::move(text);
+    b.text_store.reserve(std::max<size_t>(b.text_store.size(), 16));
+  } catch (const std::bad_alloc&) {
+    throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
+                                  static_cast<int>(std::min<size_t>(b.text_store.size() + 1, INT_MAX)))};
+  }
+  b.extern_pragmas = b.text_store.find("extern_o") != std::string::npos;
+}
+
+// Whether the lexer could report something in the text: a byte that begins
+// no token. Such a byte inside a constant reports nothing, but a look at
+// bytes alone cannot tell.
+bool may_report(std::string_view text) {
+  static const std::array<bool, 256> reportable = [] {
+    std::array<bool, 256> t{};
+    for (int i = 0; i < 256; ++i) {
+      char c = static_cast<char>(i);
+      t[static_cast<size_t>(i)] = byte_class(c) == ByteClass::other && !spellings().punctuator(&c, &c + 1);
+    }
+    return t;
+  }();
+  bool any = false;
+  for (char c : text) any |= reportable[static_cast<unsigned char>(c)];
+  return any;
 }
 
 }  // namespace
 
 TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err) {
-  return Lexer(std::move(text), files, err).run();
+  TokenBuffer b;
+  take_text(b, std::move(text));
+  Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
+  lexer.produce(SIZE_MAX);
+  b.tokens.set_source(nullptr);
+  return b;
+}
+
+TokenBuffer tokenize_as_read(std::string text, FileTable& files, std::ostream& err) {
+  if (may_report(text)) return tokenize(std::move(text), files, err);
+  TokenBuffer b;
+  take_text(b, std::move(text));
+  b.tokens.set_source(std::make_unique<Lexer>(b.text_store, b.tokens.store(), *b.extern_ranges, files, err));
+  return b;
 }
 
 }  // namespace ycc

@@ -27,6 +27,7 @@
 #include "front/actions.h"
 #include "front/syntax_errors.h"
 #include "front/token.h"
+#include "front/token_list.h"
 
 namespace ycc {
 
@@ -42,7 +43,7 @@ inline constexpr int parser_depth_limit = 2000;
 
 // Parses a whole file: `tokens` ends with Eof. Syntax errors go to `syntax`
 // (CompileHalt propagates at the error limit); everything else to `actions`.
-void parse_translation_unit(const std::vector<Token>& tokens, Actions& actions,
+void parse_translation_unit(const TokenList& tokens, Actions& actions,
                             SyntaxErrors& syntax);
 
 }  // namespace ycc

@@ -18,14 +18,15 @@ const char* base_name(const char* path) {
 
 }  // namespace
 
-Parser::Parser(const std::vector<Token>& tokens, Actions& actions, SyntaxErrors& syntax)
-    : toks_(tokens), act_(actions), syntax_(syntax), no_returns_call_(tokens.size(), 0) {
-  YCC_CHECK(!toks_.empty() && toks_.back().tok == T_Eof, "yc");
+Parser::Parser(const TokenList& tokens, Actions& actions, SyntaxErrors& syntax)
+    : toks_(tokens), act_(actions), syntax_(syntax) {
+  YCC_CHECK(toks_.contains(0), "yc");
 }
 
 const Token& Parser::peek(std::size_t k) const {
   std::size_t i = pos_ + k;
-  return i < toks_.size() ? toks_[i] : toks_.back();
+  // The list ends in Eof.
+  return toks_.contains(i) ? toks_[i] : toks_.back();
 }
 
 const Token& Parser::advance() {
@@ -73,7 +74,7 @@ Parser::DepthGuard::DepthGuard(Parser& p, const char* file, int line) : p_(p) {
     throw ParserOverflow{strf("fatal: attrib/AST stack overflow %s(%d)!\n", base_name(file), line)};
 }
 
-void parse_translation_unit(const std::vector<Token>& tokens, Actions& actions,
+void parse_translation_unit(const TokenList& tokens, Actions& actions,
                             SyntaxErrors& syntax) {
   Parser parser(tokens, actions, syntax);
   parser.translation_unit();

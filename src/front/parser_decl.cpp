@@ -20,6 +20,10 @@ constexpr TokSet statement_keywords{T_IF,     T_SWITCH, T_WHILE, T_DO,   T_FOR,
 // translation-unit = { external-declaration } Eof
 void Parser::translation_unit() {
   while (!at(T_Eof)) {
+    // Nothing before an external declaration is read again.
+    toks_.give_back_before(pos_);
+    no_returns_call_.clear();
+    no_returns_base_ = pos_;
     if (at(T_SEMICOLON)) {
       advance();  // an empty declaration declares nothing
     } else if (function_header_at(pos_)) {

@@ -1,6 +1,8 @@
 // Expressions, lowest precedence first. Binary levels are left-associative
 // loops; assignment and the conditional are right-associative. Operands reach
 // the actions through their expression stack.
+#include <algorithm>
+
 #include "front/parser_internal.h"
 
 namespace ycc {
@@ -331,7 +333,9 @@ void Parser::call_rest(int return_count) {
 // The starts of a failed list are remembered, so that each later element of
 // the same list is not scanned again.
 bool Parser::returns_call_at(std::size_t i) {
-  if (no_returns_call_[i]) return false;
+  if (i >= no_returns_base_ && i - no_returns_base_ < no_returns_call_.size() &&
+      no_returns_call_[i - no_returns_base_])
+    return false;
   std::size_t j = i;
   for (;;) {
     j = skip_space_reference(j);
@@ -345,8 +349,10 @@ bool Parser::returns_call_at(std::size_t i) {
   }
   // Mark every list element from i on: each starts a suffix of the same list.
   std::size_t k = i;
-  while (k != npos && k < toks_.size() && toks_[k].tok == T_IDENTIFIER) {
-    no_returns_call_[k] = 1;
+  while (k != npos && k >= no_returns_base_ && tok_at(k) == T_IDENTIFIER) {
+    std::size_t at = k - no_returns_base_;
+    if (at >= no_returns_call_.size()) no_returns_call_.resize(std::max(at + 1, no_returns_call_.size() * 2));
+    no_returns_call_[at] = 1;
     std::size_t next = skip_space_reference(k);
     if (next == npos || in_arguments_ || tok_at(next) != T_COMMA || tok_at(next + 1) != T_IDENTIFIER)
       break;
@@ -383,7 +389,7 @@ std::size_t Parser::skip_space_reference(std::size_t i) const {
 // of the file or when the brackets nest deeper than the parser would go.
 std::size_t Parser::skip_balanced(std::size_t i, int open, int close) const {
   int depth = 0;
-  for (; i < toks_.size(); ++i) {
+  for (; toks_.contains(i); ++i) {
     int t = toks_[i].tok;
     if (t == T_Eof) return npos;
     if (t == open) {

@@ -79,7 +79,7 @@ inline constexpr TokSet follow_constant{T_RSQUAREBRACKET, T_COMMA, T_PERCENT, T_
 
 class Parser {
  public:
-  Parser(const std::vector<Token>& tokens, Actions& actions, SyntaxErrors& syntax);
+  Parser(const TokenList& tokens, Actions& actions, SyntaxErrors& syntax);
 
   // translation-unit = { external-declaration } Eof
   void translation_unit();
@@ -88,7 +88,7 @@ class Parser {
   // ---- core: tokens ----
   const Token& cur() const { return toks_[pos_]; }
   const Token& peek(std::size_t k) const;
-  int tok_at(std::size_t i) const { return i < toks_.size() ? static_cast<int>(toks_[i].tok) : T_Eof; }
+  int tok_at(std::size_t i) const { return toks_.tok_at(i); }
   bool at(int tok) const { return cur().tok == tok; }
   const Token& advance();
   bool accept(int tok);
@@ -185,7 +185,7 @@ class Parser {
   void const_unary();
   void const_primary();
 
-  const std::vector<Token>& toks_;
+  const TokenList& toks_;
   std::size_t pos_ = 0;
   Actions& act_;
   SyntaxErrors& syntax_;
@@ -194,8 +194,10 @@ class Parser {
   // Inside call arguments a comma separates arguments, so a call with
   // return variables there takes only one of them.
   bool in_arguments_ = false;
-  // Token positions where a list of return variables is known not to start.
+  // Token positions where a list of return variables is known not to start,
+  // from `no_returns_base_` on (the start of the external declaration).
   std::vector<char> no_returns_call_;
+  std::size_t no_returns_base_ = 0;
   // The last function-header scan: up to where it looked, and its answer.
   std::size_t header_scan_end_ = 0;
   bool header_scan_body_ = false;

@@ -37,7 +37,7 @@ FunctionLabels Parser::collect_labels(std::size_t lbrace) const {
   FunctionLabels found;
   int braces = 0;
   int questions = 0;
-  for (std::size_t i = lbrace; i < toks_.size(); ++i) {
+  for (std::size_t i = lbrace; toks_.contains(i); ++i) {
     int t = toks_[i].tok;
     if (t == T_Eof) break;
     if (t == T_LCURLYBRACE) {

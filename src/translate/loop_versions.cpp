@@ -37,7 +37,7 @@ struct SpaceUse {
 // writes nothing and reports nothing: anything unexpected means "no".
 class LoopShape {
  public:
-  LoopShape(const std::vector<Token>& toks, const SymbolTable& symbols) : toks_(toks), symbols_(symbols) {}
+  LoopShape(const TokenList& toks, const SymbolTable& symbols) : toks_(toks), symbols_(symbols) {}
 
   // `at` is the index of the `for` keyword.
   bool read(size_t at);
@@ -52,7 +52,7 @@ class LoopShape {
   std::vector<SpaceUse> uses;
 
  private:
-  int tok(size_t i) const { return i < toks_.size() ? static_cast<int>(toks_[i].tok) : T_Eof; }
+  int tok(size_t i) const { return toks_.tok_at(i); }
   bool at(int t) const { return tok(p_) == t; }
   int lookup(size_t i) const { return symbols_.find_other('o', toks_[i].text(), 0); }
   // A variable of an arithmetic type (neither a structure nor a fun type).
@@ -60,15 +60,16 @@ class LoopShape {
   int int_variable(size_t i) const;
   // A decimal constant of at most six digits, so that sums stay small.
   bool small_decimal(size_t i) const {
+    if (tok(i) != T_DECIMALINT) return false;
     std::string_view d = toks_[i].text();
-    return tok(i) == T_DECIMALINT && d.size() <= 6 && d.find_first_not_of("0123456789") == std::string_view::npos;
+    return d.size() <= 6 && d.find_first_not_of("0123456789") == std::string_view::npos;
   }
   bool linear(int stop, Span& s);
   bool subscripts(int sym, bool written);
   bool value();
   bool assignment();
 
-  const std::vector<Token>& toks_;
+  const TokenList& toks_;
   const SymbolTable& symbols_;
   size_t p_ = 0;
   std::vector<int> written_;    // scalars the body assigns
@@ -308,10 +309,10 @@ bool LoopShape::read(size_t at_for) {
 
 FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword) {
   FunctionContext::LoopVersion plan;
-  const std::vector<Token>& toks = decl_.tokens().tokens;
-  size_t at = static_cast<size_t>(&keyword - toks.data());
+  const TokenList& toks = decl_.tokens().tokens;
+  size_t at = toks.index_of(keyword);
   LoopShape shape(toks, symbols_);
-  if (at >= toks.size() || !shape.read(at)) return plan;
+  if (!shape.read(at)) return plan;
 
   const std::string var = c_name(symbols_[shape.var].name);
   // A linear span in long long, so that the test itself cannot overflow;

@@ -96,10 +96,10 @@ std::string Translator::own_record(int sym, std::string_view c_text) const {
 }
 
 std::string Translator::subscript_source(const Token& lbracket) const {
-  const std::vector<Token>& toks = decl_.tokens().tokens;
-  size_t i = static_cast<size_t>(&lbracket - toks.data()) + 1;
+  const TokenList& toks = decl_.tokens().tokens;
+  size_t i = toks.index_of(lbracket) + 1;
   std::string text;
-  for (int depth = 0; i < toks.size() && toks[i].tok != T_Eof; ++i) {
+  for (int depth = 0; toks.tok_at(i) != T_Eof; ++i) {
     if (toks[i].tok == T_LSQUAREBRACKET) ++depth;
     if (toks[i].tok == T_RSQUAREBRACKET && depth-- == 0) break;
     std::string_view t = toks[i].text();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -28,14 +29,17 @@ struct LexCase {
 
 class LexTokens : public ::testing::TestWithParam<LexCase> {};
 
+// Lexed at once, and as read.
 TEST_P(LexTokens, Splits) {
-  FileTable files;
-  std::ostringstream err;
-  TokenBuffer b = tokenize(GetParam().input, files, err);
-  EXPECT_EQ(describe(b), GetParam().tokens) << "input: " << GetParam().input;
-  EXPECT_EQ(err.str(), "");
-  ASSERT_FALSE(b.tokens.empty());
-  EXPECT_EQ(b.tokens.back().tok, T_Eof);
+  for (auto lex : {tokenize, tokenize_as_read}) {
+    FileTable files;
+    std::ostringstream err;
+    TokenBuffer b = lex(GetParam().input, files, err);
+    EXPECT_EQ(describe(b), GetParam().tokens) << "input: " << GetParam().input;
+    EXPECT_EQ(err.str(), "");
+    ASSERT_FALSE(b.tokens.empty());
+    EXPECT_EQ(b.tokens.back().tok, T_Eof);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -140,9 +144,9 @@ TEST(LexExtern, RangeAfterLineMarker) {
       files, err);
   EXPECT_EQ(lines_of(b), (std::vector<int>{1000001, 2000001, 2000001, 2000001, 2000002, 2000002,
                                            2000002, 1000002}));
-  ASSERT_EQ(b.extern_ranges.size(), 2u);
-  EXPECT_EQ(b.extern_ranges[0].begin, 2000000);
-  EXPECT_EQ(b.extern_ranges[1].end, 2000004);
+  ASSERT_EQ(b.extern_ranges->ranges.size(), 2u);
+  EXPECT_EQ(b.extern_ranges->ranges[0].begin, 2000000);
+  EXPECT_EQ(b.extern_ranges->ranges[1].end, 2000004);
   EXPECT_FALSE(b.in_extern_range(1000001));
   EXPECT_TRUE(b.in_extern_range(2000001));
   EXPECT_TRUE(b.in_extern_range(2000003));
@@ -262,6 +266,61 @@ TEST(SyntaxErrorMessages, CountsTowardsTheErrorLimit) {
   f.diag.begin_compile();
   f.syntax.at_or_before({"x", T_IDENTIFIER, 1000001});
   EXPECT_THROW(f.syntax.at_or_before({"y", T_IDENTIFIER, 1000002}), CompileHalt);
+}
+
+// Read as a parser reads, giving back what it has passed: every token is
+// the one the whole-file lexer makes, and the blocks given back are reused.
+TEST(LexAsRead, SameTokensAcrossGivenBackBlocks) {
+  std::string text = "\n#line 1 \"a.yc\"\n";
+  for (int i = 0; i < 6000; ++i) text += "x" + std::to_string(i) + " = y + 12; /* c\n */ s = \"q\";\n";
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer whole = tokenize(text, files, err);
+  TokenBuffer read = tokenize_as_read(text, files, err);
+  size_t n = 0;
+  for (size_t i = 0; read.tokens.contains(i); ++i, ++n) {
+    ASSERT_TRUE(whole.tokens.contains(i));
+    EXPECT_EQ(read.tokens[i].tok, whole.tokens[i].tok) << i;
+    EXPECT_EQ(read.tokens[i].text(), whole.tokens[i].text()) << i;
+    EXPECT_EQ(read.tokens[i].line, whole.tokens[i].line) << i;
+    EXPECT_EQ(read.tokens.index_of(read.tokens[i]), i);
+    if (i % 1000 == 0) read.tokens.give_back_before(i);
+  }
+  EXPECT_EQ(n, whole.tokens.size());
+  EXPECT_EQ(read.tokens.tok_at(n), T_Eof);  // past the end
+  // Of some fifteen blocks' worth, a few are held, and they are all there
+  // ever were.
+  const TokenStore& store = read.tokens.store();
+  ASSERT_GT(n, 14 * TokenStore::block_size);
+  size_t live = static_cast<size_t>(std::count_if(store.blocks.begin(), store.blocks.end(),
+                                                  [](const auto& b) { return b != nullptr; }));
+  EXPECT_LE(live, 3u);
+  EXPECT_LE(live + store.spare.size(), 4u);
+  EXPECT_EQ(err.str(), "");
+}
+
+// A text with a byte the lexer reports is lexed at once: the report comes
+// before anything else can be said about the file.
+TEST(LexAsRead, ReportingTextIsLexedAtOnce) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize_as_read("\n#line 1 \"a.yc\"\n\nx\r\ny", files, err);
+  EXPECT_EQ(err.str(), "invalid token near line 1000002 (text was '\r')\n");
+  EXPECT_EQ(describe(b), "IDENTIFIER:x IDENTIFIER:y");
+}
+
+TEST(LexAsRead, ExternRangesAreKnownWhenAsked) {
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize_as_read(
+      "\n#line 1 \"a.yc\"\nx\n#line 1 \"e.h\"\n#pragma extern_on\nint h1;\n\n#pragma extern_off\n\n#line 2 \"a.yc\"\ny",
+      files, err);
+  EXPECT_EQ(b.tokens[0].text(), "x");
+  EXPECT_TRUE(b.in_extern_range(2000001));
+  EXPECT_FALSE(b.in_extern_range(1000002));
+  TokenBuffer plain = tokenize_as_read("\n#line 1 \"a.yc\"\nx y", files, err);
+  EXPECT_FALSE(plain.extern_pragmas);
+  EXPECT_FALSE(plain.in_extern_range(1000001));
 }
 
 }  // namespace
