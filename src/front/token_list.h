@@ -50,12 +50,16 @@ class TokenList {
   const Token& operator[](std::size_t i) const {
     if (i >= count_) [[unlikely]]
       reach(i);
-    return blocks_[i >> TokenStore::block_bits][i & (TokenStore::block_size - 1)];
+    return at(i);
   }
   // Whether token i exists.
   bool contains(std::size_t i) const { return i < count_ || reach(i); }
   // Token i's number, or Eof past the end.
-  int tok_at(std::size_t i) const { return contains(i) ? static_cast<int>((*this)[i].tok) : T_Eof; }
+  int tok_at(std::size_t i) const {
+    if (i < count_) [[likely]]
+      return static_cast<int>(at(i).tok);
+    return reach(i) ? static_cast<int>(at(i).tok) : T_Eof;
+  }
   // The index of a token of this list (one of the last few blocks).
   std::size_t index_of(const Token& t) const;
 
@@ -110,6 +114,9 @@ class TokenList {
  private:
   // Makes tokens until token i exists or the list ends; whether it exists.
   bool reach(std::size_t i) const;
+  const Token& at(std::size_t i) const {
+    return blocks_[i >> TokenStore::block_bits].get()[i & (TokenStore::block_size - 1)];
+  }
   void refresh() const {
     blocks_ = store_->blocks.data();
     count_ = store_->count;
