@@ -154,16 +154,16 @@ class Lexer final : public TokenSource {
   // Every token's text is a view into `text`, which ends in a NUL. Tokens go
   // to `store`, extern ranges to `ranges`; `err` takes the reports.
   Lexer(std::string_view text, TokenStore& store, ExternRanges& ranges, FileTable& files, std::ostream& err)
-      : s_(text), files_(files), err_(err), store_(store), ranges_(ranges.ranges), extern_(ranges) {
+      : s_(text), files_(files), err_(err), store_(store), extern_(ranges) {
     line_start();
   }
 
   void produce(std::size_t index) override;
 
+ private:
   // Tokens made ahead of the one asked for, so that requests are few.
   static constexpr std::size_t ahead = 256;
 
- private:
   enum class Mode { normal, line_directive };
 
   char at(size_t i) const { return i < s_.size() ? s_[i] : '\0'; }
@@ -196,16 +196,16 @@ class Lexer final : public TokenSource {
   // An entry whose begin was never set (an "extern_off" with no "extern_on")
   // holds no line.
   void grow_ranges() {
-    if (ranges_.size() <= current_range_) ranges_.resize(current_range_ + 1, {INT_MAX, 0});
+    if (extern_.ranges.size() <= current_range_) extern_.ranges.resize(current_range_ + 1, {INT_MAX, 0});
   }
   void extern_on() {
     grow_ranges();
-    ranges_[current_range_].begin = static_cast<int>(std::max<std::int64_t>(line_ - 1, INT_MIN));
+    extern_.ranges[current_range_].begin = static_cast<int>(std::max<std::int64_t>(line_ - 1, INT_MIN));
   }
   void extern_off() {
     ++current_range_;
     grow_ranges();
-    ranges_[current_range_].end = line_code();
+    extern_.ranges[current_range_].end = line_code();
   }
 
   std::string_view s_;
@@ -217,7 +217,6 @@ class Lexer final : public TokenSource {
   int line_code_ = 0;  // line_ as tokens carry it
   const Spellings& spellings_ = spellings();
   TokenStore& store_;
-  std::vector<ExternRange>& ranges_;
   ExternRanges& extern_;
   size_t current_range_ = 0;
 };
