@@ -1,5 +1,10 @@
 #include "decl/library_table.h"
 
+#include <algorithm>
+#include <array>
+
+#include "decl/type_keywords.h"
+
 namespace ycc {
 
 namespace {
@@ -158,5 +163,31 @@ int find_library_function(std::string_view name) {
 }
 
 const LibraryFunction& library_function(int row) { return table[row]; }
+
+CMathForm c_math_form(std::string_view name) {
+  static constexpr std::array<std::string_view, 13> one{"acos", "asin", "atan",  "ceil", "cos", "exp", "fabs",
+                                                         "floor", "log", "log10", "sin",  "sqrt", "tan"};
+  static constexpr std::array<std::string_view, 3> two{"atan2", "fmod", "pow"};
+  auto form = [&](std::string_view base, int bits) -> CMathForm {
+    if (std::find(one.begin(), one.end(), base) != one.end()) return {bits, 1};
+    if (std::find(two.begin(), two.end(), base) != two.end()) return {bits, 2};
+    return {0, 0};
+  };
+  CMathForm f = form(name, TB_DOUBLE);
+  if (f.params || name.empty()) return f;
+  std::string_view base = name.substr(0, name.size() - 1);
+  if (name.back() == 'f') return form(base, TB_FLOAT);
+  if (name.back() == 'l') return form(base, TB_LONG | TB_DOUBLE);
+  return f;
+}
+
+std::string c_math_declaration(std::string_view name) {
+  CMathForm f = c_math_form(name);
+  if (!f.params) return {};
+  std::string type = f.type_bits == TB_FLOAT ? "float" : f.type_bits == TB_DOUBLE ? "double" : "long double";
+  std::string d = type + " " + std::string(name) + "(" + type;
+  if (f.params == 2) d += ", " + type;
+  return d + ");";
+}
 
 }  // namespace ycc

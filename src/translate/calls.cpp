@@ -119,6 +119,21 @@ void Translator::call(const CallInfo& info) {
                                                                     info.argument_count, lists);
   }
 
+  // --direct-calls: a math function that is C's own, with C's types, is
+  // called by its C name as a value; it never raises and touches no
+  // space, so no returns array or exception test is needed.
+  bool c_math = false;
+  if (options_.direct_calls && site.library >= 0 && site.signature && !reported) {
+    CMathForm form = c_math_form(site.name);
+    auto is_form = [&](int sym) {
+      return symbols_[sym].dim_count() == 0 && symbols_.resolve_type(symbols_[sym].type_sym) == 0 &&
+             symbols_.type_bits_of(sym) == form.type_bits;
+    };
+    c_math = form.params == static_cast<int>(lists.params.size()) && lists.returns.size() == 1 &&
+             info.argument_count == form.params && info.return_count <= 1 &&
+             std::all_of(lists.params.begin(), lists.params.end(), is_form) && is_form(lists.returns[0]);
+  }
+
   // ---- The C text.
   std::string value;
   int value_bits = 0, value_sym = 0, value_dims = 0;
@@ -136,7 +151,7 @@ void Translator::call(const CallInfo& info) {
     FunctionLists l = lists.returns.empty() && lists.params.empty() ? function_lists(symbols_, site.signature) : lists;
     if (!l.returns.empty()) {
       int r = l.returns[0];
-      value = return_temporary(r);
+      value = c_math ? c_math_call(site, args_at, info.argument_count) : return_temporary(r);
       value_dims = symbols_[r].dim_count();
       value_bits = symbols_.type_bits_of(r);
       value_sym = symbols_.resolve_type(symbols_[r].type_sym);
@@ -157,7 +172,9 @@ void Translator::call(const CallInfo& info) {
   }
   // A target more complex than a name keeps the described form, whose slots
   // are set before the arguments are computed.
-  if (emitting && !direct.empty() && std::all_of(targets.begin(), targets.end(), plain_object)) {
+  if (emitting && c_math) {
+    if (info.return_count == 1) text += "\n" + targets[0] + " = " + c_math_call(site, args_at, info.argument_count) + ";";
+  } else if (emitting && !direct.empty() && std::all_of(targets.begin(), targets.end(), plain_object)) {
     text += direct_call(site, info, direct, targets, args_at, lists);
   } else if (emitting) {
     const LibraryFunction* row = site.library >= 0 ? &library_function(site.library) : nullptr;
@@ -241,6 +258,13 @@ std::string Translator::direct_call(const CallSite& site, const CallInfo& info, 
   for (size_t i = 0; i < parts.size(); ++i) t += (i ? ", " : "") + parts[i];
   t += ");";
   return t + exception_test(site, nullptr);
+}
+
+std::string Translator::c_math_call(const CallSite& site, int args_at, int argument_count) {
+  support_.use_c_math(site.name);
+  std::string t = site.name + "(";
+  for (int i = 0; i < argument_count; ++i) t += (i ? ", " : "") + operand(args_at + i).value;
+  return t + ")";
 }
 
 std::string Translator::exception_test(const CallSite& site, const LibraryFunction* row) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/text.h"
+#include "decl/library_table.h"
 
 namespace ycc {
 
@@ -38,6 +39,9 @@ std::string SupportFunctions::files_table() const {
 void SupportFunctions::generate(Workspace& ws, const Options& options, int source_line_code) {
   // A table cannot be empty in C: the compiled file stands in it at least.
   if (table_.empty()) position(source_line_code);
+  // Declared here rather than by including math.h, whose other names could
+  // collide with the program's.
+  for (const std::string& name : c_math_) ws.globals += "\n" + c_math_declaration(name);
   if (options.memory_locations) {
     std::string header = strf("\nstatic void %s(int line)", out_of_memory().c_str());
     ws.globals += header + ";";

@@ -6,6 +6,7 @@
 // first appearance, and is complete only at the end of the file.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,12 @@ class SupportFunctions {
   std::string out_of_memory() const { return names_.generated("out_of_memory"); }
   std::string bounds_exceeded() const { return names_.generated("bounds_exceeded"); }
 
+  // A C math function called by its C name (--direct-calls): its C
+  // declaration goes into the globals slot with the support functions'.
+  void use_c_math(const std::string& name) {
+    if (std::find(c_math_.begin(), c_math_.end(), name) == c_math_.end()) c_math_.push_back(name);
+  }
+
   // At the end of a file without errors: the prototypes into the globals
   // slot and the functions into the deferred-functions text, unless /M (no
   // out_of_memory) or /B (no bounds_exceeded). `source` is the compiled
@@ -39,6 +46,7 @@ class SupportFunctions {
   const FileTable& files_;
   const Names& names_;
   std::vector<int> table_;  // compiler file indexes, in order of first appearance
+  std::vector<std::string> c_math_;  // in order of first call
 };
 
 }  // namespace ycc

@@ -228,6 +228,7 @@ class Translator {
 
   // ---- Calls (calls.cpp, call_checks.cpp, formats.cpp) ----
   std::string exception_test(const CallSite& site, const LibraryFunction* row);
+  std::string c_math_call(const CallSite& site, int args_at, int argument_count);
   std::string direct_call(const CallSite& site, const CallInfo& info, const std::string& direct,
                           const std::vector<std::string>& targets, int args_at, const FunctionLists& lists);
   // Whether an argument for `param` is passed by reference (spaces, structures).
