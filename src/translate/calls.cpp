@@ -134,6 +134,10 @@ void Translator::call(const CallInfo& info) {
              std::all_of(lists.params.begin(), lists.params.end(), is_form) && is_form(lists.returns[0]);
   }
 
+  // A loop written twice copies only the statements' values: a call whose
+  // C text is more than a value keeps the loop checked.
+  if (!c_math && options_.versioned_loops && !fn().versions.empty()) fn().versions.back().candidate = false;
+
   // ---- The C text.
   std::string value;
   int value_bits = 0, value_sym = 0, value_dims = 0;
@@ -173,7 +177,11 @@ void Translator::call(const CallInfo& info) {
   // A target more complex than a name keeps the described form, whose slots
   // are set before the arguments are computed.
   if (emitting && c_math) {
-    if (info.return_count == 1) text += "\n" + targets[0] + " = " + c_math_call(site, args_at, info.argument_count) + ";";
+    if (info.return_count == 1) {
+      std::string statement = targets[0] + " = " + c_math_call(site, args_at, info.argument_count);
+      if (options_.versioned_loops && !fn().versions.empty()) collect_unchecked(statement);
+      text += "\n" + statement + ";";
+    }
   } else if (emitting && !direct.empty() && std::all_of(targets.begin(), targets.end(), plain_object)) {
     text += direct_call(site, info, direct, targets, args_at, lists);
   } else if (emitting) {

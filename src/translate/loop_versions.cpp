@@ -15,6 +15,7 @@
 
 #include "common/c_names.h"
 #include "common/text.h"
+#include "decl/library_table.h"
 #include "decl/type_keywords.h"
 #include "translate/translator.h"
 
@@ -37,7 +38,9 @@ struct SpaceUse {
 // writes nothing and reports nothing: anything unexpected means "no".
 class LoopShape {
  public:
-  LoopShape(const TokenList& toks, const SymbolTable& symbols) : toks_(toks), symbols_(symbols) {}
+  // `c_math`: calls of the C math functions are values (--direct-calls).
+  LoopShape(const TokenList& toks, const SymbolTable& symbols, bool c_math)
+      : toks_(toks), symbols_(symbols), c_math_(c_math) {}
 
   // `at` is the index of the `for` keyword.
   bool read(size_t at);
@@ -64,13 +67,19 @@ class LoopShape {
     std::string_view d = toks_[i].text();
     return d.size() <= 6 && d.find_first_not_of("0123456789") == std::string_view::npos;
   }
+  // A space of structures that hold no spaces, whose elements' arithmetic
+  // members the body may use.
+  int structure_space(size_t i) const;
+  bool c_math_function(size_t i) const;
   bool linear(int stop, Span& s);
   bool subscripts(int sym, bool written);
+  bool members(int sym);
   bool value();
   bool assignment();
 
   const TokenList& toks_;
   const SymbolTable& symbols_;
+  const bool c_math_;
   size_t p_ = 0;
   std::vector<int> written_;    // scalars the body assigns
   std::vector<int> invariant_;  // variables the bound and the subscripts read
@@ -81,6 +90,21 @@ int LoopShape::arithmetic_variable(size_t i) const {
   int s = lookup(i);
   if (!s || symbols_[s].name_is != 'v' || symbols_.resolve_type(symbols_[s].type_sym) != 0) return 0;
   return s;
+}
+
+int LoopShape::structure_space(size_t i) const {
+  if (tok(i) != T_IDENTIFIER) return 0;
+  int s = lookup(i);
+  if (!s || symbols_[s].name_is != 'v' || symbols_[s].dim_count() == 0) return 0;
+  int tag = symbols_.resolve_type(symbols_[s].type_sym);
+  return tag && symbols_[tag].name_is == 's' && symbols_[tag].vf.empty() ? s : 0;
+}
+
+bool LoopShape::c_math_function(size_t i) const {
+  if (!c_math_ || tok(i) != T_IDENTIFIER || tok(i + 1) != T_LPARENTHESIS) return false;
+  int s = lookup(i);
+  return s && (symbols_[s].name_is == 'f' || symbols_[s].name_is == 'd') &&
+         find_library_function(symbols_[s].name) >= 0 && c_math_form(symbols_[s].name).params > 0;
 }
 
 int LoopShape::int_variable(size_t i) const {
@@ -140,21 +164,42 @@ bool LoopShape::subscripts(int sym, bool written) {
     ++p_;
     use.subs.push_back(s);
   }
-  if (at(T_LSQUAREBRACKET) || at(T_DOT)) return false;
+  if (at(T_LSQUAREBRACKET) || (at(T_DOT) && !symbols_.resolve_type(symbols_[sym].type_sym))) return false;
   uses.push_back(std::move(use));
-  return true;
+  return !symbols_.resolve_type(symbols_[sym].type_sym) || members(sym);
 }
 
-// An arithmetic expression up to ";": variables, elements, constants,
-// + - * / %, parentheses and casts to basic types.
+// `.name` down to a member of an arithmetic type, p_ at the first dot.
+bool LoopShape::members(int sym) {
+  int tag = symbols_.resolve_type(symbols_[sym].type_sym);
+  while (tag) {
+    if (symbols_[tag].name_is != 's' || !symbols_[tag].vf.empty() || !at(T_DOT) || tok(p_ + 1) != T_IDENTIFIER)
+      return false;
+    int m = symbols_.find_member(tag, toks_[p_ + 1].text());
+    if (!m || symbols_[m].dim_count() > 0) return false;
+    tag = symbols_.resolve_type(symbols_[m].type_sym);
+    p_ += 2;
+  }
+  return !at(T_DOT) && !at(T_LSQUAREBRACKET);
+}
+
+// An arithmetic expression up to ";": variables, elements and their
+// members, constants, + - * / %, parentheses, casts to basic types and
+// calls of the C math functions.
 bool LoopShape::value() {
   bool operand = true;
-  int depth = 0;
+  std::vector<bool> calls;  // per open parenthesis: whether a call's
   for (;;) {
     int t = tok(p_);
     if (operand) {
+      if (c_math_function(p_)) {
+        calls.push_back(true);
+        p_ += 2;
+        continue;
+      }
       if (t == T_IDENTIFIER) {
         int s = arithmetic_variable(p_);
+        if (!s) s = structure_space(p_);
         if (!s) return false;
         if (symbols_[s].dim_count() > 0) {
           if (!subscripts(s, false)) return false;
@@ -176,7 +221,7 @@ bool LoopShape::value() {
           size_t k = p_ + 1;
           while (keyword_bit(tok(k))) ++k;
           if (k == p_ + 1) {
-            ++depth;
+            calls.push_back(false);
           } else {
             if (tok(k) != T_RPARENTHESIS) return false;
             p_ = k;  // a cast: an operand still follows
@@ -192,12 +237,13 @@ bool LoopShape::value() {
       ++p_;
       continue;
     }
-    if (t == T_PLUS || t == T_MINUS || t == T_MULTIPLY || t == T_DIVIDE || t == T_PERCENT) {
+    if (t == T_PLUS || t == T_MINUS || t == T_MULTIPLY || t == T_DIVIDE || t == T_PERCENT ||
+        (t == T_COMMA && !calls.empty() && calls.back())) {
       operand = true;
-    } else if (t == T_RPARENTHESIS && depth > 0) {
-      --depth;
+    } else if (t == T_RPARENTHESIS && !calls.empty()) {
+      calls.pop_back();
     } else {
-      return t == T_SEMICOLON && depth == 0;
+      return t == T_SEMICOLON && calls.empty();
     }
     ++p_;
   }
@@ -206,6 +252,7 @@ bool LoopShape::value() {
 // target "=" value ";" where the target is a scalar or an element.
 bool LoopShape::assignment() {
   int s = arithmetic_variable(p_);
+  if (!s) s = structure_space(p_);
   if (!s) return false;
   if (symbols_[s].dim_count() == 0) {
     written_.push_back(s);
@@ -311,7 +358,7 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
   FunctionContext::LoopVersion plan;
   const TokenList& toks = decl_.tokens().tokens;
   size_t at = toks.index_of(keyword);
-  LoopShape shape(toks, symbols_);
+  LoopShape shape(toks, symbols_, options_.direct_calls);
   if (!shape.read(at)) return plan;
 
   const std::string var = c_name(symbols_[shape.var].name);

@@ -6,14 +6,21 @@ namespace ycc::testing {
 namespace {
 
 const char declarations[] =
+    "struct pt { double x; int k; };\n"
+    "struct named { char var name[]; double w; };\n"
     "h(double y) double z;\n"
+    "sqrt(double x) double r;\n"
+    "pow(double x, double y) double r;\n"
+    "abs(int x) int y;\n"
     "f(int a, int b, int c, int x) int r;\n"
     "f(int a, int b, int c, int x) int r\n{\n"
-    "   double var g[][];\n   double e[4][4];\n   int var v[];\n   int k;\n   long m;\n   double t;\n";
+    "   double var g[][];\n   double e[4][4];\n   int var v[];\n   int k;\n   long m;\n   double t;\n"
+    "   struct pt var s[];\n   struct named var ns[];\n";
 
-std::string versioned_run(const std::string& statements, std::string* messages = nullptr) {
+std::string versioned_run(const std::string& statements, std::string* messages = nullptr, bool direct_calls = false) {
   TranslateRun t;
   t.options.versioned_loops = true;
+  t.options.direct_calls = direct_calls;
   std::string body = t.run(std::string(declarations) + statements + "\n}\n");
   if (messages) *messages = t.messages();
   return body;
@@ -57,19 +64,19 @@ TEST(LoopVersions, TheTestAndTheCopyStandBeforeTheCheckedLoop) {
             "\nif(!(k <= a - 1)) goto zzzz_false1;"
             "\n##a"
             "\nif((signed)(k - 1) < 0 || (signed)(a - k) < 0)"
-            "\n   zzzz_bounds_exceeded(\"g\", 10, 4, (unsigned)(k - 1), (unsigned)(a - k),"
+            "\n   zzzz_bounds_exceeded(\"g\", 17, 4, (unsigned)(k - 1), (unsigned)(a - k),"
             "\n  (unsigned)(g.limit1), (unsigned)(g.limit2));"
             "\nif((unsigned)(k - 1) >= (g.limit1) || (unsigned)(a - k) >= (g.limit2))"
             "\n   if(!zzzz_resize1(&(g), (unsigned)(k - 1), 7, 15, (unsigned)(a - k), 7,"
             "\n  15)) {"
-            "\n      zzzz_out_of_memory(10);"
+            "\n      zzzz_out_of_memory(17);"
             "\n      zzzz_exception = 32000;"
             "\n      goto zzzz_finish;"
             "\n   }"
             "\n##b"
             "\nif((signed)(k - 1) < 0 || (unsigned)(k - 1) >= (g.limit1) || (signed)(a - "
             "\n k) < 0 || (unsigned)(a - k) >= (g.limit2))"
-            "\n   zzzz_bounds_exceeded(\"g\", 10, 4, (unsigned)(k - 1), (unsigned)(a - k),"
+            "\n   zzzz_bounds_exceeded(\"g\", 17, 4, (unsigned)(k - 1), (unsigned)(a - k),"
             "\n  (unsigned)(g.limit1), (unsigned)(g.limit2));"
             "\n##c"
             "\nt = t + (*(((double *)(g.ptr)) + ((k - 1) * (g.limit2) + (a - k))));"
@@ -109,6 +116,7 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
   struct Case {
     const char* loop;
     int copies;
+    bool direct_calls = false;  // math calls are values only then
   };
   const Case cases[] = {
       {"for (k = 0; k < a; k++) g[b][k] = 1.0;", 1},
@@ -148,10 +156,22 @@ TEST(LoopVersions, OnlyLoopsWhoseSubscriptsFollowTheLoopVariable) {
       {"for (k = 0; k < a; k++) { g[0][k] = 1.0; break; }", 0},
       {"for (k = 0; k < a; k++) g[0][k] = x > 0 ? 1.0 : 2.0;", 0},
       {"for (k = 0; k < a; k++) t = t + 1.0;", 0},
+      // Members of structures that hold no spaces.
+      {"for (k = 0; k < a; k++) s[k].x = s[k].x + 1.0;", 1},
+      {"for (k = 0; k < a; k++) s[b].x = s[k].x * (double)s[k + 1].k;", 1},
+      {"for (k = 0; k < a; k++) ns[k].w = 1.0;", 0},
+      {"for (k = 0; k < a; k++) s[k].x = ns[k].w;", 0},
+      {"for (k = 0; k < a; k++) s[k] = s[k + 1];", 0},
+      // Math functions that are C's own, called by their C names.
+      {"for (k = 0; k < a; k++) g[0][k] = sqrt(g[1][k]);", 0},
+      {"for (k = 0; k < a; k++) g[0][k] = sqrt(g[1][k]);", 1, true},
+      {"for (k = 0; k < a; k++) g[0][k] = (pow(t, (sqrt(s[k].x)))) * 2.0;", 1, true},
+      {"for (k = 0; k < a; k++) v[k] = abs(k);", 0, true},
+      {"for (k = 0; k < a; k++) g[0][k] = h(t);", 0, true},
   };
   for (const Case& c : cases) {
     std::string messages;
-    std::string body = versioned_run(c.loop, &messages);
+    std::string body = versioned_run(c.loop, &messages, c.direct_calls);
     EXPECT_EQ(copies(body), c.copies) << c.loop << "\n" << body;
     EXPECT_EQ(messages.find("error"), std::string::npos) << c.loop << messages;
   }
