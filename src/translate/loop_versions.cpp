@@ -8,7 +8,7 @@
 // a limit and nothing can grow. A test before the loop decides that from the
 // space records, once per entry: the copy without checks runs when it
 // holds, the checked loop as always otherwise, so every report and every
-// growth happens exactly where it did.
+// growth happens exactly where it did. Short loops always run checked.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -22,6 +22,9 @@
 namespace ycc {
 
 namespace {
+
+// The fewest passes for which the copy without checks runs.
+constexpr int min_passes = 16;
 
 // Token indices [begin, end).
 struct Span {
@@ -407,6 +410,11 @@ FunctionContext::LoopVersion Translator::plan_loop_version(const Token& keyword)
     test(sub + " < (long long)(" + limit + ")");
   };
   if (strided) test(stride + " >= 1");
+  // The copy pays for its test only over enough passes: a short loop (a
+  // few bodies, a row of ten) keeps its checks, and stays clear of what
+  // compilers make of a few straight-line passes.
+  const std::string span = shape.descending ? first + " - " + last : last + " - " + first;
+  test(span + " >= " + (strided ? strf("%d * %s", min_passes - 1, stride.c_str()) : std::to_string(min_passes - 1)));
   for (const SpaceUse& use : shape.uses) {
     const std::string record = record_of(use.sym);
     for (size_t d = 0; d < use.subs.size(); ++d) {

@@ -48,12 +48,13 @@ TEST(LoopVersions, TheTestAndTheCopyStandBeforeTheCheckedLoop) {
   std::string messages;
   EXPECT_EQ(versioned_run("for (k = 1; k <= a - 1; ++k) t = t + g[k - 1][a - k];", &messages),
             "\nk = 1;"
-            "\nif((long long)(k) <= (long long)(a) - 1 && !((long long)(k) - 1 >= 0 && (long "
-            "\n long)(k) - 1 < (long long)(g.limit1) && ((long long)(a) - 1) - 1 >= 0 && "
-            "\n ((long long)(a) - 1) - 1 < (long long)(g.limit1) && (long long)(a) - (long "
-            "\n long)(k) >= 0 && (long long)(a) - (long long)(k) < (long long)(g.limit2) "
-            "\n && (long long)(a) - ((long long)(a) - 1) >= 0 && (long long)(a) - ((long "
-            "\n long)(a) - 1) < (long long)(g.limit2))) goto zzzz_checked1;"
+            "\nif((long long)(k) <= (long long)(a) - 1 && !(((long long)(a) - 1) - (long "
+            "\n long)(k) >= 15 && (long long)(k) - 1 >= 0 && (long long)(k) - 1 < (long "
+            "\n long)(g.limit1) && ((long long)(a) - 1) - 1 >= 0 && ((long long)(a) - 1) "
+            "\n - 1 < (long long)(g.limit1) && (long long)(a) - (long long)(k) >= 0 && (long "
+            "\n long)(a) - (long long)(k) < (long long)(g.limit2) && (long long)(a) - ((long "
+            "\n long)(a) - 1) >= 0 && (long long)(a) - ((long long)(a) - 1) < (long long)(g.limit2))) "
+            "\n goto zzzz_checked1;"
             "\nzzzz_fast1:"
             "\nif(!(k <= a - 1)) goto zzzz_false1;"
             "\nt = t + (*(((double *)(g.ptr)) + ((k - 1) * (g.limit2) + (a - k))));"
@@ -103,7 +104,10 @@ TEST(LoopVersions, AWrittenElementOfOneDimensionRaisesOccursBeforeTheCopy) {
 
 TEST(LoopVersions, AStrideMustBePositiveAndOccursRisesToTheLastPassItself) {
   std::string body = unbroken(versioned_run("for (k = 1; k < a; k += b) v[k] = 0;"));
-  EXPECT_NE(body.find("(long long)(b) >= 1 && (long long)(k) >= 0"), std::string::npos) << body;
+  EXPECT_NE(body.find("(long long)(b) >= 1 && ((long long)(a) - 1) - (long long)(k) >= 15 * (long long)(b) && "
+                      "(long long)(k) >= 0"),
+            std::string::npos)
+      << body;
   EXPECT_NE(body.find("\n   (v.occurs) = (unsigned)(((long long)(k) + (((long long)(a) - 1) - (long long)(k)) / "
                       "(long long)(b) * (long long)(b)) + 1);\nzzzz_fast1:"),
             std::string::npos)

@@ -184,11 +184,11 @@ int status;
 int zzzz_exception = 0;
 struct zz2D_meta g = {NULL};
 struct zz2D_meta h = {NULL};
-double e[3][4];
-struct zz2D_meta zz_e = {NULL,3,4};
+double e[3][20];
+struct zz2D_meta zz_e = {NULL,3,20};
 struct zz1D_meta v = {NULL};
-int f[8];
-struct zz1D_meta zz_f = {NULL,0,8};
+int f[40];
+struct zz1D_meta zz_f = {NULL,0,40};
 int i;
 int j;
 int n;
@@ -196,16 +196,16 @@ double t;
 int zzzz_int1;
 static char zzzz_string1[10] = "sum %.2f\n";
 static struct zz1D_meta zz_zzzz_string1 = {zzzz_string1,9,10};
-static char zzzz_string2[35] = "g grew to %u x %u, g[7][9] = %.1f\n";
-static struct zz1D_meta zz_zzzz_string2 = {zzzz_string2,34,35};
+static char zzzz_string2[37] = "g grew to %u x %u, g[22][24] = %.1f\n";
+static struct zz1D_meta zz_zzzz_string2 = {zzzz_string2,36,37};
 static char zzzz_string3[16] = "v sum %d of %u\n";
 static struct zz1D_meta zz_zzzz_string3 = {zzzz_string3,15,16};
-static char zzzz_string4[27] = "f %d of %u, v[4] %d of %u\n";
-static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,26,27};
-static char zzzz_string5[15] = "f[6] %d of %u\n";
-static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,14,15};
-static char zzzz_string6[15] = "f[7] %d of %u\n";
-static struct zz1D_meta zz_zzzz_string6 = {zzzz_string6,14,15};
+static char zzzz_string4[12] = "f %d of %u\n";
+static struct zz1D_meta zz_zzzz_string4 = {zzzz_string4,11,12};
+static char zzzz_string5[16] = "f[36] %d of %u\n";
+static struct zz1D_meta zz_zzzz_string5 = {zzzz_string5,15,16};
+static char zzzz_string6[26] = "f[36] %d, f[19] %d of %u\n";
+static struct zz1D_meta zz_zzzz_string6 = {zzzz_string6,25,26};
 static char zzzz_string7[18] = "not reached %.1f\n";
 static struct zz1D_meta zz_zzzz_string7 = {zzzz_string7,17,18};
 void *zzzz_actuals[2];
@@ -214,25 +214,25 @@ zz_e.ptr = e;
 zz_f.ptr = f;
 zzzz_actuals[0] = &(zzzz_exception);
 status = 0;
-n = 5;
+n = 20;
 if((signed)(n - 1) < 0 || (signed)(n - 1) < 0)
-   zzzz_bounds_exceeded("g", 20, 4, (unsigned)(n - 1), (unsigned)(n - 1),
+   zzzz_bounds_exceeded("g", 21, 4, (unsigned)(n - 1), (unsigned)(n - 1),
   (unsigned)(g.limit1), (unsigned)(g.limit2));
 if((unsigned)(n - 1) >= (g.limit1) || (unsigned)(n - 1) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(n - 1), 7, 15, (unsigned)(n - 1), 7,
   15)) {
-      zzzz_out_of_memory(20);
+      zzzz_out_of_memory(21);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 (*(((double *)(g.ptr)) + ((n - 1) * (g.limit2) + (n - 1)))) = 0.0;
 if((signed)(n - 1) < 0 || (signed)(n - 1) < 0)
-   zzzz_bounds_exceeded("h", 21, 4, (unsigned)(n - 1), (unsigned)(n - 1),
+   zzzz_bounds_exceeded("h", 22, 4, (unsigned)(n - 1), (unsigned)(n - 1),
   (unsigned)(h.limit1), (unsigned)(h.limit2));
 if((unsigned)(n - 1) >= (h.limit1) || (unsigned)(n - 1) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(n - 1), 7, 15, (unsigned)(n - 1), 7,
   15)) {
-      zzzz_out_of_memory(21);
+      zzzz_out_of_memory(22);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -241,12 +241,12 @@ i = 0;
 zzzz_cont4:
 if(!(i < n)) goto zzzz_false1;
 j = 0;
-if((long long)(j) < (long long)(n) && !((long long)(i) >= 0 && (long long)(i) 
- < (long long)(g.limit1) && (long long)(j) >= 0 && (long long)(j) < (long 
- long)(g.limit2) && ((long long)(n) - 1) >= 0 && ((long long)(n) - 1) < (long 
- long)(g.limit2) && (long long)(i) < (long long)(h.limit1) && (long long)(j) 
- < (long long)(h.limit2) && ((long long)(n) - 1) < (long long)(h.limit2))) 
- goto zzzz_checked1;
+if((long long)(j) < (long long)(n) && !(((long long)(n) - 1) - (long long)(j) 
+ >= 15 && (long long)(i) >= 0 && (long long)(i) < (long long)(g.limit1) && 
+ (long long)(j) >= 0 && (long long)(j) < (long long)(g.limit2) && ((long 
+ long)(n) - 1) >= 0 && ((long long)(n) - 1) < (long long)(g.limit2) && (long 
+ long)(i) < (long long)(h.limit1) && (long long)(j) < (long long)(h.limit2) 
+ && ((long long)(n) - 1) < (long long)(h.limit2))) goto zzzz_checked1;
 zzzz_fast1:
 if(!(j < n)) goto zzzz_false2;
 (*(((double *)(g.ptr)) + ((i) * (g.limit2) + (j)))) = ((double)((i * n + 
@@ -260,28 +260,28 @@ zzzz_checked1:
 zzzz_cont3:
 if(!(j < n)) goto zzzz_false2;
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("g", 25, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 26, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((unsigned)(i) >= (g.limit1) || (unsigned)(j) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(25);
+      zzzz_out_of_memory(26);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 (*(((double *)(g.ptr)) + ((i) * (g.limit2) + (j)))) = ((double)((i * n + 
  j)));
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("h", 26, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 27, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 if((unsigned)(i) >= (h.limit1) || (unsigned)(j) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(26);
+      zzzz_out_of_memory(27);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(j) < 0 || (unsigned)(j) 
  >= (g.limit2))
-   zzzz_bounds_exceeded("g", 26, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 27, 4, (unsigned)(i), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j)))) = -(*(((double *)(g.ptr)) 
  + ((i) * (g.limit2) + (j))));
@@ -299,19 +299,19 @@ i = 1;
 zzzz_cont8:
 if(!(i < n - 1)) goto zzzz_false3;
 j = 1;
-if((long long)(j) <= (long long)(n) - 2 && !((long long)(i) >= 0 && (long 
- long)(i) < (long long)(h.limit1) && (long long)(j) >= 0 && (long long)(j) 
- < (long long)(h.limit2) && ((long long)(n) - 2) >= 0 && ((long long)(n) 
- - 2) < (long long)(h.limit2) && (long long)(i) - 1 >= 0 && (long long)(i) 
- - 1 < (long long)(g.limit1) && (long long)(j) < (long long)(g.limit2) && 
- ((long long)(n) - 2) < (long long)(g.limit2) && (long long)(i) + 1 >= 0 
- && (long long)(i) + 1 < (long long)(g.limit1) && (long long)(i) < (long 
- long)(g.limit1) && (long long)(j) - 1 >= 0 && (long long)(j) - 1 < (long 
- long)(g.limit2) && ((long long)(n) - 2) - 1 >= 0 && ((long long)(n) - 2) 
- - 1 < (long long)(g.limit2) && (long long)(n) - 1 - (long long)(j) >= 0 
- && (long long)(n) - 1 - (long long)(j) < (long long)(g.limit2) && (long 
- long)(n) - 1 - ((long long)(n) - 2) >= 0 && (long long)(n) - 1 - ((long 
- long)(n) - 2) < (long long)(g.limit2))) goto zzzz_checked2;
+if((long long)(j) <= (long long)(n) - 2 && !(((long long)(n) - 2) - (long 
+ long)(j) >= 15 && (long long)(i) >= 0 && (long long)(i) < (long long)(h.limit1) 
+ && (long long)(j) >= 0 && (long long)(j) < (long long)(h.limit2) && ((long 
+ long)(n) - 2) >= 0 && ((long long)(n) - 2) < (long long)(h.limit2) && (long 
+ long)(i) - 1 >= 0 && (long long)(i) - 1 < (long long)(g.limit1) && (long 
+ long)(j) < (long long)(g.limit2) && ((long long)(n) - 2) < (long long)(g.limit2) 
+ && (long long)(i) + 1 >= 0 && (long long)(i) + 1 < (long long)(g.limit1) 
+ && (long long)(i) < (long long)(g.limit1) && (long long)(j) - 1 >= 0 && 
+ (long long)(j) - 1 < (long long)(g.limit2) && ((long long)(n) - 2) - 1 >= 
+ 0 && ((long long)(n) - 2) - 1 < (long long)(g.limit2) && (long long)(n) 
+ - 1 - (long long)(j) >= 0 && (long long)(n) - 1 - (long long)(j) < (long 
+ long)(g.limit2) && (long long)(n) - 1 - ((long long)(n) - 2) >= 0 && (long 
+ long)(n) - 1 - ((long long)(n) - 2) < (long long)(g.limit2))) goto zzzz_checked2;
 zzzz_fast2:
 if(!(j <= n - 2)) goto zzzz_false4;
 (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j)))) = 0.25 * ((*(((double 
@@ -324,29 +324,29 @@ zzzz_checked2:
 zzzz_cont7:
 if(!(j <= n - 2)) goto zzzz_false4;
 if((signed)(i) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("h", 31, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 32, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 if((unsigned)(i) >= (h.limit1) || (unsigned)(j) >= (h.limit2))
    if(!zzzz_resize1(&(h), (unsigned)(i), 7, 15, (unsigned)(j), 7, 15)) {
-      zzzz_out_of_memory(31);
+      zzzz_out_of_memory(32);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
 if((signed)(i - 1) < 0 || (unsigned)(i - 1) >= (g.limit1) || (signed)(j) 
  < 0 || (unsigned)(j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i - 1), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 32, 4, (unsigned)(i - 1), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i + 1) < 0 || (unsigned)(i + 1) >= (g.limit1) || (signed)(j) 
  < 0 || (unsigned)(j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i + 1), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 32, 4, (unsigned)(i + 1), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(j - 1) < 0 
  || (unsigned)(j - 1) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i), (unsigned)(j - 1), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 32, 4, (unsigned)(i), (unsigned)(j - 1), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((signed)(i) < 0 || (unsigned)(i) >= (g.limit1) || (signed)(n - 1 - j) 
  < 0 || (unsigned)(n - 1 - j) >= (g.limit2))
-   zzzz_bounds_exceeded("g", 31, 4, (unsigned)(i), (unsigned)(n - 1 - j),
+   zzzz_bounds_exceeded("g", 32, 4, (unsigned)(i), (unsigned)(n - 1 - j),
   (unsigned)(g.limit1), (unsigned)(g.limit2));
 (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j)))) = 0.25 * ((*(((double 
  *)(g.ptr)) + ((i - 1) * (g.limit2) + (j)))) + (*(((double *)(g.ptr)) + ((i 
@@ -366,10 +366,11 @@ i = 0;
 zzzz_cont12:
 if(!(i < n)) goto zzzz_false5;
 j = 0;
-if((long long)(j) < (long long)(n) && !((long long)(i) >= 0 && (long long)(i) 
- < (long long)(h.limit1) && (long long)(j) >= 0 && (long long)(j) < (long 
- long)(h.limit2) && ((long long)(n) - 1) >= 0 && ((long long)(n) - 1) < (long 
- long)(h.limit2))) goto zzzz_checked3;
+if((long long)(j) < (long long)(n) && !(((long long)(n) - 1) - (long long)(j) 
+ >= 15 && (long long)(i) >= 0 && (long long)(i) < (long long)(h.limit1) && 
+ (long long)(j) >= 0 && (long long)(j) < (long long)(h.limit2) && ((long 
+ long)(n) - 1) >= 0 && ((long long)(n) - 1) < (long long)(h.limit2))) goto 
+ zzzz_checked3;
 zzzz_fast3:
 if(!(j < n)) goto zzzz_false6;
 t = t + (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j))));
@@ -380,7 +381,7 @@ zzzz_cont11:
 if(!(j < n)) goto zzzz_false6;
 if((signed)(i) < 0 || (unsigned)(i) >= (h.limit1) || (signed)(j) < 0 || (unsigned)(j) 
  >= (h.limit2))
-   zzzz_bounds_exceeded("h", 35, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
+   zzzz_bounds_exceeded("h", 36, 4, (unsigned)(i), (unsigned)(j), (unsigned)(h.limit1),
   (unsigned)(h.limit2));
 t = t + (*(((double *)(h.ptr)) + ((i) * (h.limit2) + (j))));
 zzzz_cont10:
@@ -396,14 +397,15 @@ zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string1), (double)(t));
 if(zzzz_exception) {
-   zzzz_out_of_memory(36);
+   zzzz_out_of_memory(37);
    goto zzzz_finish;
 }
 j = 0;
-if((long long)(j) < (long long)(n) + 5 && !((long long)(n) + 2 >= 0 && (long 
- long)(n) + 2 < (long long)(g.limit1) && (long long)(j) >= 0 && (long long)(j) 
- < (long long)(g.limit2) && ((long long)(n) + 5 - 1) >= 0 && ((long long)(n) 
- + 5 - 1) < (long long)(g.limit2))) goto zzzz_checked4;
+if((long long)(j) < (long long)(n) + 5 && !(((long long)(n) + 5 - 1) - (long 
+ long)(j) >= 15 && (long long)(n) + 2 >= 0 && (long long)(n) + 2 < (long 
+ long)(g.limit1) && (long long)(j) >= 0 && (long long)(j) < (long long)(g.limit2) 
+ && ((long long)(n) + 5 - 1) >= 0 && ((long long)(n) + 5 - 1) < (long long)(g.limit2))) 
+ goto zzzz_checked4;
 zzzz_fast4:
 if(!(j < n + 5)) goto zzzz_false7;
 (*(((double *)(g.ptr)) + ((n + 2) * (g.limit2) + (j)))) = ((double)(j));
@@ -414,12 +416,12 @@ zzzz_checked4:
 zzzz_cont14:
 if(!(j < n + 5)) goto zzzz_false7;
 if((signed)(n + 2) < 0 || (signed)(j) < 0)
-   zzzz_bounds_exceeded("g", 39, 4, (unsigned)(n + 2), (unsigned)(j), (unsigned)(g.limit1),
+   zzzz_bounds_exceeded("g", 40, 4, (unsigned)(n + 2), (unsigned)(j), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 if((unsigned)(n + 2) >= (g.limit1) || (unsigned)(j) >= (g.limit2))
    if(!zzzz_resize1(&(g), (unsigned)(n + 2), 7, 15, (unsigned)(j), 7, 15)) 
  {
-      zzzz_out_of_memory(39);
+      zzzz_out_of_memory(40);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
@@ -429,227 +431,162 @@ zzzz_int1 = j;
 j++;
 goto zzzz_cont14;
 zzzz_false7:
-if((signed)(7) < 0 || (unsigned)(7) >= (g.limit1) || (signed)(9) < 0 || (unsigned)(9) 
- >= (g.limit2))
-   zzzz_bounds_exceeded("g", 40, 4, (unsigned)(7), (unsigned)(9), (unsigned)(g.limit1),
+if((signed)(22) < 0 || (unsigned)(22) >= (g.limit1) || (signed)(24) < 0 || 
+ (unsigned)(24) >= (g.limit2))
+   zzzz_bounds_exceeded("g", 41, 4, (unsigned)(22), (unsigned)(24), (unsigned)(g.limit1),
   (unsigned)(g.limit2));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string2), g.limit1, g.limit2, (double)((*(((double 
- *)(g.ptr)) + ((7) * (g.limit2) + (9))))));
+ *)(g.ptr)) + ((22) * (g.limit2) + (24))))));
 if(zzzz_exception) {
-   zzzz_out_of_memory(40);
+   zzzz_out_of_memory(41);
    goto zzzz_finish;
 }
-if((signed)(3) < 0)
-   zzzz_bounds_exceeded("v", 42, 2, (unsigned)(3), (unsigned)(v.limit1));
-if((unsigned)(3) >= (v.limit1))
-   if(!zzzz_resize2(&(v), (unsigned)(3), 50, 15)) {
-      zzzz_out_of_memory(42);
-      zzzz_exception = 32000;
-      goto zzzz_finish;
-   }
-if((unsigned)(3) + 1 > (v.occurs))
-   (v.occurs) = (unsigned)(3) + 1;
-(*(((int *)(v.ptr)) + ((3)))) = 30;
-if((signed)(2) < 0)
-   zzzz_bounds_exceeded("v", 43, 2, (unsigned)(2), (unsigned)(v.limit1));
-if((unsigned)(2) >= (v.limit1))
-   if(!zzzz_resize2(&(v), (unsigned)(2), 50, 15)) {
-      zzzz_out_of_memory(43);
-      zzzz_exception = 32000;
-      goto zzzz_finish;
-   }
-if((unsigned)(2) + 1 > (v.occurs))
-   (v.occurs) = (unsigned)(2) + 1;
-(*(((int *)(v.ptr)) + ((2)))) = 20;
-if((signed)(1) < 0)
-   zzzz_bounds_exceeded("v", 44, 2, (unsigned)(1), (unsigned)(v.limit1));
-if((unsigned)(1) >= (v.limit1))
-   if(!zzzz_resize2(&(v), (unsigned)(1), 50, 15)) {
-      zzzz_out_of_memory(44);
-      zzzz_exception = 32000;
-      goto zzzz_finish;
-   }
-if((unsigned)(1) + 1 > (v.occurs))
-   (v.occurs) = (unsigned)(1) + 1;
-(*(((int *)(v.ptr)) + ((1)))) = 10;
-if((signed)(0) < 0)
-   zzzz_bounds_exceeded("v", 45, 2, (unsigned)(0), (unsigned)(v.limit1));
-if((unsigned)(0) >= (v.limit1))
-   if(!zzzz_resize2(&(v), (unsigned)(0), 50, 15)) {
+i = 0;
+zzzz_cont15:
+if(!(i < 20)) goto zzzz_false8;
+if((signed)(i) < 0)
+   zzzz_bounds_exceeded("v", 45, 2, (unsigned)(i), (unsigned)(v.limit1));
+if((unsigned)(i) >= (v.limit1))
+   if(!zzzz_resize2(&(v), (unsigned)(i), 50, 15)) {
       zzzz_out_of_memory(45);
       zzzz_exception = 32000;
       goto zzzz_finish;
    }
-if((unsigned)(0) + 1 > (v.occurs))
-   (v.occurs) = (unsigned)(0) + 1;
-(*(((int *)(v.ptr)) + ((0)))) = 0;
+if((unsigned)(i) + 1 > (v.occurs))
+   (v.occurs) = (unsigned)(i) + 1;
+(*(((int *)(v.ptr)) + ((i)))) = i * 10;
+zzzz_int1 = i;
+i++;
+goto zzzz_cont15;
+zzzz_false8:
 n = 0;
 j = 0;
-if((long long)(j) < (long long)(v.occurs) && !((long long)(j) >= 0 && (long 
- long)(j) < (long long)(v.limit1) && (long long)(j) < (long long)(v.occurs) 
- && ((long long)(v.occurs) - 1) >= 0 && ((long long)(v.occurs) - 1) < (long 
- long)(v.limit1) && ((long long)(v.occurs) - 1) < (long long)(v.occurs))) 
- goto zzzz_checked5;
+if((long long)(j) < (long long)(v.occurs) && !(((long long)(v.occurs) - 1) 
+ - (long long)(j) >= 15 && (long long)(j) >= 0 && (long long)(j) < (long 
+ long)(v.limit1) && (long long)(j) < (long long)(v.occurs) && ((long long)(v.occurs) 
+ - 1) >= 0 && ((long long)(v.occurs) - 1) < (long long)(v.limit1) && ((long 
+ long)(v.occurs) - 1) < (long long)(v.occurs))) goto zzzz_checked5;
 zzzz_fast5:
-if(!(j < v.occurs)) goto zzzz_false8;
+if(!(j < v.occurs)) goto zzzz_false9;
 n = n + (*(((int *)(v.ptr)) + ((j)))) / 10;
 zzzz_int1 = j;
 j++;
 goto zzzz_fast5;
 zzzz_checked5:
-zzzz_cont16:
-if(!(j < v.occurs)) goto zzzz_false8;
+zzzz_cont17:
+if(!(j < v.occurs)) goto zzzz_false9;
 if((signed)(j) < 0 || (unsigned)(j) >= (v.occurs))
-   zzzz_bounds_exceeded("v", 48, 2, (unsigned)(j), (unsigned)(v.occurs));
+   zzzz_bounds_exceeded("v", 50, 2, (unsigned)(j), (unsigned)(v.occurs));
 n = n + (*(((int *)(v.ptr)) + ((j)))) / 10;
-zzzz_cont15:
+zzzz_cont16:
 zzzz_int1 = j;
 j++;
-goto zzzz_cont16;
-zzzz_false8:
+goto zzzz_cont17;
+zzzz_false9:
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
 _yc__printf(zzzz_actuals, &(zz_zzzz_string3), n, v.occurs);
 if(zzzz_exception) {
-   zzzz_out_of_memory(49);
+   zzzz_out_of_memory(51);
    goto zzzz_finish;
 }
 j = 0;
-if((long long)(j) < 6 && !((long long)(j) >= 0 && (long long)(j) < (long 
- long)(zz_f.limit1) && (6 - 1) >= 0 && (6 - 1) < (long long)(zz_f.limit1))) 
- goto zzzz_checked6;
-if((long long)(j) < 6 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+if((long long)(j) < 20 && !((20 - 1) - (long long)(j) >= 15 && (long long)(j) 
+ >= 0 && (long long)(j) < (long long)(zz_f.limit1) && (20 - 1) >= 0 && (20 
+ - 1) < (long long)(zz_f.limit1))) goto zzzz_checked6;
+if((long long)(j) < 20 && (long long)(j) + 1 > (long long)(zz_f.occurs))
    (zz_f.occurs) = (unsigned)((long long)(j) + 1);
-if((long long)(j) < 6 && (6 - 1) + 1 > (long long)(zz_f.occurs))
-   (zz_f.occurs) = (unsigned)((6 - 1) + 1);
+if((long long)(j) < 20 && (20 - 1) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((20 - 1) + 1);
 zzzz_fast6:
-if(!(j < 6)) goto zzzz_false9;
+if(!(j < 20)) goto zzzz_false10;
 (*(((int *)(zz_f.ptr)) + ((j)))) = j * j;
 zzzz_int1 = j;
 j++;
 goto zzzz_fast6;
 zzzz_checked6:
-zzzz_cont18:
-if(!(j < 6)) goto zzzz_false9;
+zzzz_cont19:
+if(!(j < 20)) goto zzzz_false10;
 if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
-   zzzz_bounds_exceeded("f", 52, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
+   zzzz_bounds_exceeded("f", 54, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
 if((unsigned)(j) + 1 > (zz_f.occurs))
    (zz_f.occurs) = (unsigned)(j) + 1;
 (*(((int *)(zz_f.ptr)) + ((j)))) = j * j;
-zzzz_cont17:
+zzzz_cont18:
 zzzz_int1 = j;
 j++;
-goto zzzz_cont18;
-zzzz_false9:
-j = 0;
-if((long long)(j) < 2 && !((long long)(j) + 3 >= 0 && (long long)(j) + 3 
- < (long long)(v.limit1) && (2 - 1) + 3 >= 0 && (2 - 1) + 3 < (long long)(v.limit1) 
- && (long long)(j) >= 0 && (long long)(j) < (long long)(v.limit1) && (long 
- long)(j) < (long long)(v.occurs) && (2 - 1) >= 0 && (2 - 1) < (long long)(v.limit1) 
- && (2 - 1) < (long long)(v.occurs))) goto zzzz_checked7;
-if((long long)(j) < 2 && (long long)(j) + 3 + 1 > (long long)(v.occurs))
-   (v.occurs) = (unsigned)((long long)(j) + 3 + 1);
-if((long long)(j) < 2 && (2 - 1) + 3 + 1 > (long long)(v.occurs))
-   (v.occurs) = (unsigned)((2 - 1) + 3 + 1);
-zzzz_fast7:
-if(!(j < 2)) goto zzzz_false10;
-(*(((int *)(v.ptr)) + ((j + 3)))) = (*(((int *)(v.ptr)) + ((j)))) + 1;
-zzzz_int1 = j;
-j++;
-goto zzzz_fast7;
-zzzz_checked7:
-zzzz_cont20:
-if(!(j < 2)) goto zzzz_false10;
-if((signed)(j + 3) < 0)
-   zzzz_bounds_exceeded("v", 54, 2, (unsigned)(j + 3), (unsigned)(v.limit1));
-if((unsigned)(j + 3) >= (v.limit1))
-   if(!zzzz_resize2(&(v), (unsigned)(j + 3), 50, 15)) {
-      zzzz_out_of_memory(54);
-      zzzz_exception = 32000;
-      goto zzzz_finish;
-   }
-if((unsigned)(j + 3) + 1 > (v.occurs))
-   (v.occurs) = (unsigned)(j + 3) + 1;
-if((signed)(j) < 0 || (unsigned)(j) >= (v.occurs))
-   zzzz_bounds_exceeded("v", 54, 2, (unsigned)(j), (unsigned)(v.occurs));
-(*(((int *)(v.ptr)) + ((j + 3)))) = (*(((int *)(v.ptr)) + ((j)))) + 1;
-zzzz_cont19:
-zzzz_int1 = j;
-j++;
-goto zzzz_cont20;
+goto zzzz_cont19;
 zzzz_false10:
-if((signed)(5) < 0 || (unsigned)(5) >= (zz_f.occurs))
-   zzzz_bounds_exceeded("f", 55, 2, (unsigned)(5), (unsigned)(zz_f.occurs));
-if((signed)(4) < 0 || (unsigned)(4) >= (v.occurs))
-   zzzz_bounds_exceeded("v", 55, 2, (unsigned)(4), (unsigned)(v.occurs));
+if((signed)(19) < 0 || (unsigned)(19) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 55, 2, (unsigned)(19), (unsigned)(zz_f.occurs));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string4), (*(((int *)(zz_f.ptr)) + ((5)))),
-  zz_f.occurs, (*(((int *)(v.ptr)) + ((4)))), v.occurs);
+_yc__printf(zzzz_actuals, &(zz_zzzz_string4), (*(((int *)(zz_f.ptr)) + ((19)))),
+  zz_f.occurs);
 if(zzzz_exception) {
    zzzz_out_of_memory(55);
    goto zzzz_finish;
 }
-j = 4;
-if((long long)(j) < 8 && !(2 >= 1 && (long long)(j) >= 0 && (long long)(j) 
- < (long long)(zz_f.limit1) && (8 - 1) >= 0 && (8 - 1) < (long long)(zz_f.limit1))) 
- goto zzzz_checked8;
-if((long long)(j) < 8 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+j = 0;
+if((long long)(j) < 38 && !(2 >= 1 && (38 - 1) - (long long)(j) >= 15 * 2 
+ && (long long)(j) >= 0 && (long long)(j) < (long long)(zz_f.limit1) && (38 
+ - 1) >= 0 && (38 - 1) < (long long)(zz_f.limit1))) goto zzzz_checked7;
+if((long long)(j) < 38 && (long long)(j) + 1 > (long long)(zz_f.occurs))
    (zz_f.occurs) = (unsigned)((long long)(j) + 1);
-if((long long)(j) < 8 && ((long long)(j) + ((8 - 1) - (long long)(j)) / 2 
- * 2) + 1 > (long long)(zz_f.occurs))
-   (zz_f.occurs) = (unsigned)(((long long)(j) + ((8 - 1) - (long long)(j)) 
+if((long long)(j) < 38 && ((long long)(j) + ((38 - 1) - (long long)(j)) / 
+ 2 * 2) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)(((long long)(j) + ((38 - 1) - (long long)(j)) 
  / 2 * 2) + 1);
-zzzz_fast8:
-if(!(j < 8)) goto zzzz_false11;
+zzzz_fast7:
+if(!(j < 38)) goto zzzz_false11;
 (*(((int *)(zz_f.ptr)) + ((j)))) = -j;
 j += 2;
-goto zzzz_fast8;
-zzzz_checked8:
-zzzz_cont22:
-if(!(j < 8)) goto zzzz_false11;
+goto zzzz_fast7;
+zzzz_checked7:
+zzzz_cont21:
+if(!(j < 38)) goto zzzz_false11;
 if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
    zzzz_bounds_exceeded("f", 58, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
 if((unsigned)(j) + 1 > (zz_f.occurs))
    (zz_f.occurs) = (unsigned)(j) + 1;
 (*(((int *)(zz_f.ptr)) + ((j)))) = -j;
-zzzz_cont21:
+zzzz_cont20:
 j += 2;
-goto zzzz_cont22;
+goto zzzz_cont21;
 zzzz_false11:
-if((signed)(6) < 0 || (unsigned)(6) >= (zz_f.occurs))
-   zzzz_bounds_exceeded("f", 59, 2, (unsigned)(6), (unsigned)(zz_f.occurs));
+if((signed)(36) < 0 || (unsigned)(36) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 59, 2, (unsigned)(36), (unsigned)(zz_f.occurs));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string5), (*(((int *)(zz_f.ptr)) + ((6)))),
+_yc__printf(zzzz_actuals, &(zz_zzzz_string5), (*(((int *)(zz_f.ptr)) + ((36)))),
   zz_f.occurs);
 if(zzzz_exception) {
    zzzz_out_of_memory(59);
    goto zzzz_finish;
 }
-j = 7;
-if((long long)(j) > 5 && !((long long)(j) >= 0 && (long long)(j) < (long 
- long)(zz_f.limit1) && (5 + 1) >= 0 && (5 + 1) < (long long)(zz_f.limit1) 
- && (long long)(j) - 2 >= 0 && (long long)(j) - 2 < (long long)(zz_f.limit1) 
- && (long long)(j) - 2 < (long long)(zz_f.occurs) && (5 + 1) - 2 >= 0 && 
- (5 + 1) - 2 < (long long)(zz_f.limit1) && (5 + 1) - 2 < (long long)(zz_f.occurs))) 
- goto zzzz_checked9;
-if((long long)(j) > 5 && (long long)(j) + 1 > (long long)(zz_f.occurs))
+j = 36;
+if((long long)(j) > 18 && !((long long)(j) - (18 + 1) >= 15 && (long long)(j) 
+ >= 0 && (long long)(j) < (long long)(zz_f.limit1) && (18 + 1) >= 0 && (18 
+ + 1) < (long long)(zz_f.limit1) && (long long)(j) - 2 >= 0 && (long long)(j) 
+ - 2 < (long long)(zz_f.limit1) && (long long)(j) - 2 < (long long)(zz_f.occurs) 
+ && (18 + 1) - 2 >= 0 && (18 + 1) - 2 < (long long)(zz_f.limit1) && (18 + 
+ 1) - 2 < (long long)(zz_f.occurs))) goto zzzz_checked8;
+if((long long)(j) > 18 && (long long)(j) + 1 > (long long)(zz_f.occurs))
    (zz_f.occurs) = (unsigned)((long long)(j) + 1);
-if((long long)(j) > 5 && (5 + 1) + 1 > (long long)(zz_f.occurs))
-   (zz_f.occurs) = (unsigned)((5 + 1) + 1);
-zzzz_fast9:
-if(!(j > 5)) goto zzzz_false12;
+if((long long)(j) > 18 && (18 + 1) + 1 > (long long)(zz_f.occurs))
+   (zz_f.occurs) = (unsigned)((18 + 1) + 1);
+zzzz_fast8:
+if(!(j > 18)) goto zzzz_false12;
 (*(((int *)(zz_f.ptr)) + ((j)))) = (*(((int *)(zz_f.ptr)) + ((j - 2)))) + 
  100;
 zzzz_int1 = j;
 j--;
-goto zzzz_fast9;
-zzzz_checked9:
-zzzz_cont24:
-if(!(j > 5)) goto zzzz_false12;
+goto zzzz_fast8;
+zzzz_checked8:
+zzzz_cont23:
+if(!(j > 18)) goto zzzz_false12;
 if((signed)(j) < 0 || (unsigned)(j) >= (zz_f.limit1))
    zzzz_bounds_exceeded("f", 62, 2, (unsigned)(j), (unsigned)(zz_f.limit1));
 if((unsigned)(j) + 1 > (zz_f.occurs))
@@ -658,67 +595,71 @@ if((signed)(j - 2) < 0 || (unsigned)(j - 2) >= (zz_f.occurs))
    zzzz_bounds_exceeded("f", 62, 2, (unsigned)(j - 2), (unsigned)(zz_f.occurs));
 (*(((int *)(zz_f.ptr)) + ((j)))) = (*(((int *)(zz_f.ptr)) + ((j - 2)))) + 
  100;
-zzzz_cont23:
+zzzz_cont22:
 zzzz_int1 = j;
 j--;
-goto zzzz_cont24;
+goto zzzz_cont23;
 zzzz_false12:
-if((signed)(7) < 0 || (unsigned)(7) >= (zz_f.occurs))
-   zzzz_bounds_exceeded("f", 63, 2, (unsigned)(7), (unsigned)(zz_f.occurs));
+if((signed)(36) < 0 || (unsigned)(36) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 63, 2, (unsigned)(36), (unsigned)(zz_f.occurs));
+if((signed)(19) < 0 || (unsigned)(19) >= (zz_f.occurs))
+   zzzz_bounds_exceeded("f", 63, 2, (unsigned)(19), (unsigned)(zz_f.occurs));
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
-_yc__printf(zzzz_actuals, &(zz_zzzz_string6), (*(((int *)(zz_f.ptr)) + ((7)))),
-  zz_f.occurs);
+_yc__printf(zzzz_actuals, &(zz_zzzz_string6), (*(((int *)(zz_f.ptr)) + ((36)))),
+  (*(((int *)(zz_f.ptr)) + ((19)))), zz_f.occurs);
 if(zzzz_exception) {
    zzzz_out_of_memory(63);
    goto zzzz_finish;
 }
 j = 0;
-if((long long)(j) < 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4 - 1) >= 
- 0 && (4 - 1) < (long long)(zz_e.limit2))) goto zzzz_checked10;
-zzzz_fast10:
-if(!(j < 4)) goto zzzz_false13;
+if((long long)(j) < 20 && !((20 - 1) - (long long)(j) >= 15 && 2 >= 0 && 
+ 2 < (long long)(zz_e.limit1) && (long long)(j) >= 0 && (long long)(j) < 
+ (long long)(zz_e.limit2) && (20 - 1) >= 0 && (20 - 1) < (long long)(zz_e.limit2))) 
+ goto zzzz_checked9;
+zzzz_fast9:
+if(!(j < 20)) goto zzzz_false13;
 (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
 zzzz_int1 = j;
 j++;
-goto zzzz_fast10;
-zzzz_checked10:
-zzzz_cont26:
-if(!(j < 4)) goto zzzz_false13;
+goto zzzz_fast9;
+zzzz_checked9:
+zzzz_cont25:
+if(!(j < 20)) goto zzzz_false13;
 if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
  (unsigned)(j) >= (zz_e.limit2))
    zzzz_bounds_exceeded("e", 66, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
   (unsigned)(zz_e.limit2));
 (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j)))) = 0.5 * ((double)(j));
-zzzz_cont25:
+zzzz_cont24:
 zzzz_int1 = j;
 j++;
-goto zzzz_cont26;
+goto zzzz_cont25;
 zzzz_false13:
 t = 0.0;
 j = 0;
-if((long long)(j) <= 4 && !(2 >= 0 && 2 < (long long)(zz_e.limit1) && (long 
- long)(j) >= 0 && (long long)(j) < (long long)(zz_e.limit2) && (4) >= 0 && 
- (4) < (long long)(zz_e.limit2))) goto zzzz_checked11;
-zzzz_fast11:
-if(!(j <= 4)) goto zzzz_false14;
+if((long long)(j) <= 20 && !((20) - (long long)(j) >= 15 && 2 >= 0 && 2 < 
+ (long long)(zz_e.limit1) && (long long)(j) >= 0 && (long long)(j) < (long 
+ long)(zz_e.limit2) && (20) >= 0 && (20) < (long long)(zz_e.limit2))) goto 
+ zzzz_checked10;
+zzzz_fast10:
+if(!(j <= 20)) goto zzzz_false14;
 t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
 zzzz_int1 = j;
 j++;
-goto zzzz_fast11;
-zzzz_checked11:
-zzzz_cont28:
-if(!(j <= 4)) goto zzzz_false14;
+goto zzzz_fast10;
+zzzz_checked10:
+zzzz_cont27:
+if(!(j <= 20)) goto zzzz_false14;
 if((signed)(2) < 0 || (unsigned)(2) >= (zz_e.limit1) || (signed)(j) < 0 || 
  (unsigned)(j) >= (zz_e.limit2))
    zzzz_bounds_exceeded("e", 69, 4, (unsigned)(2), (unsigned)(j), (unsigned)(zz_e.limit1),
   (unsigned)(zz_e.limit2));
 t = t + (*(((double *)(zz_e.ptr)) + ((2) * (zz_e.limit2) + (j))));
-zzzz_cont27:
+zzzz_cont26:
 zzzz_int1 = j;
 j++;
-goto zzzz_cont28;
+goto zzzz_cont27;
 zzzz_false14:
 zzzz_actuals[0] = &(zzzz_exception);
 zzzz_actuals[1] = &(zzzz_int1);
