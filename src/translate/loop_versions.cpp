@@ -191,7 +191,7 @@ bool LoopShape::members(int sym) {
 // calls of the C math functions.
 bool LoopShape::value() {
   bool operand = true;
-  std::vector<bool> calls;  // per open parenthesis: whether a call's
+  std::vector<bool> calls;  // per open parenthesis: whether it holds a call's arguments
   for (;;) {
     int t = tok(p_);
     if (operand) {
