@@ -167,12 +167,12 @@ bool LoopShape::subscripts(int sym, bool written) {
     ++p_;
     use.subs.push_back(s);
   }
-  if (at(T_LSQUAREBRACKET) || (at(T_DOT) && !symbols_.resolve_type(symbols_[sym].type_sym))) return false;
   uses.push_back(std::move(use));
-  return !symbols_.resolve_type(symbols_[sym].type_sym) || members(sym);
+  return members(sym);
 }
 
-// `.name` down to a member of an arithmetic type, p_ at the first dot.
+// After an element: `.name` down to a member of an arithmetic type, or
+// nothing when the element is of one.
 bool LoopShape::members(int sym) {
   int tag = symbols_.resolve_type(symbols_[sym].type_sym);
   while (tag) {
