@@ -1,17 +1,24 @@
 #include "common/names.h"
 
 #include <charconv>
+#include <cstring>
 
 namespace ycc {
 
 std::string Names::generated(std::string_view word, int number) const {
-  // One allocation at most: the length is known before the first append.
-  char digits[12];
-  char* end = number >= 1 ? std::to_chars(digits, digits + sizeof digits, number).ptr : digits;
-  std::string name;
-  name.reserve(generated_start_.size() + word.size() + static_cast<size_t>(end - digits));
-  name.append(generated_start_).append(word).append(digits, end);
-  return name;
+  // Composed in place, then copied once: most names fit a string's own room.
+  char buf[96];
+  const size_t head = generated_start_.size() + word.size();
+  if (head > sizeof buf - 12) {
+    std::string name(generated_start_);
+    name.append(word);
+    if (number >= 1) name.append(std::to_string(number));
+    return name;
+  }
+  std::memcpy(buf, generated_start_.data(), generated_start_.size());
+  std::memcpy(buf + generated_start_.size(), word.data(), word.size());
+  char* end = number >= 1 ? std::to_chars(buf + head, buf + sizeof buf, number).ptr : buf + head;
+  return std::string(buf, end);
 }
 
 std::string Names::meta_type(int dims) const { return prefix_ + std::to_string(dims) + "D_meta"; }

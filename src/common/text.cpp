@@ -71,6 +71,15 @@ void appendf(std::string& out, const char* fmt, ...) {
   va_end(ap);
 }
 
+std::string concat(std::initializer_list<std::string_view> pieces) {
+  size_t size = 0;
+  for (std::string_view p : pieces) size += p.size();
+  std::string out;
+  out.reserve(size);
+  for (std::string_view p : pieces) out.append(p);
+  return out;
+}
+
 std::string strf(const char* fmt, ...) {
   va_list ap;
   va_start(ap, fmt);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdarg>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,9 @@ namespace ycc {
 std::string strf(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
 // The same, appended to `out`: no string of its own.
 void appendf(std::string& out, const char* fmt, ...) __attribute__((format(printf, 2, 3)));
+// The pieces joined, in a block taken once: generated statements join whole
+// bodies, which a chain of + would copy again at each growth.
+std::string concat(std::initializer_list<std::string_view> pieces);
 void vappendf(std::string& out, const char* fmt, va_list ap);
 
 // A text as the body of a C string literal: backslashes, quotes and

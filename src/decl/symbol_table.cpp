@@ -29,12 +29,10 @@ void SymbolTable::add_to_index(int sub) {
 
 void SymbolTable::remove_from_index(int sub) {
   auto drop = [sub](NameIndex& index, const std::string& name) {
-    auto list = index.find(name);
-    if (list == index.end()) return;
-    std::vector<int>& v = list->second;
-    auto it = std::find(v.rbegin(), v.rend(), sub);
-    if (it != v.rend()) v.erase(std::next(it).base());
-    if (v.empty()) index.erase(list);
+    std::vector<int>* v = index.find(name);
+    if (!v) return;
+    auto it = std::find(v->rbegin(), v->rend(), sub);
+    if (it != v->rend()) v->erase(std::next(it).base());
   };
   drop(by_name_, (*this)[sub].name);
   drop(typedefs_, (*this)[sub].name);
@@ -44,10 +42,10 @@ int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner
   YCC_CHECK(name_class == 'g' || name_class == 'c' || name_class == 'i' || name_class == 'o',
             "yc_fun");
   if (!name.empty() && name[0] == '1') return 0;
-  auto list = by_name_.find(key(name));
-  if (list == by_name_.end()) return 0;
+  const std::vector<int>* list = by_name_.find(key(name));
+  if (!list) return 0;
   int lowest = depth() > 0 && name_class != 'g' ? block_first(depth()) : 1;
-  const std::vector<int>& v = list->second;
+  const std::vector<int>& v = *list;
   for (auto it = v.rbegin(); it != v.rend(); ++it) {
     if (*it < lowest) return 0;
     // The members of a structure are numbered above it.
@@ -61,8 +59,8 @@ int SymbolTable::find_in_scope(char name_class, std::string_view name, int owner
 }
 
 int SymbolTable::find_typedef(std::string_view name) const {
-  auto list = typedefs_.find(key(name));
-  return list == typedefs_.end() || list->second.empty() ? 0 : list->second.back();
+  const std::vector<int>* list = typedefs_.find(key(name));
+  return !list || list->empty() ? 0 : list->back();
 }
 
 int SymbolTable::resolve_type(int type_sym) const {
@@ -77,25 +75,25 @@ int SymbolTable::type_bits_of(int sub) const {
 }
 
 int SymbolTable::find_member(int tag, std::string_view name) const {
-  auto list = by_name_.find(key(name));
-  if (list == by_name_.end()) return 0;
-  for (int sub : list->second)
+  const std::vector<int>* list = by_name_.find(key(name));
+  if (!list) return 0;
+  for (int sub : *list)
     if ((*this)[sub].name_class == 'c' && (*this)[sub].owner == tag) return sub;
   return 0;
 }
 
 int SymbolTable::find_other(char name_class, std::string_view name, int except) const {
-  auto list = by_name_.find(key(name));
-  if (list == by_name_.end()) return 0;
-  for (auto it = list->second.rbegin(); it != list->second.rend(); ++it)
+  const std::vector<int>* list = by_name_.find(key(name));
+  if (!list) return 0;
+  for (auto it = list->rbegin(); it != list->rend(); ++it)
     if (*it != except && (*this)[*it].name_class == name_class) return *it;
   return 0;
 }
 
 int SymbolTable::find_tag(char name_is, std::string_view name, int before) const {
-  auto list = by_name_.find(key(name));
-  if (list == by_name_.end()) return 0;
-  for (auto it = list->second.rbegin(); it != list->second.rend(); ++it) {
+  const std::vector<int>* list = by_name_.find(key(name));
+  if (!list) return 0;
+  for (auto it = list->rbegin(); it != list->rend(); ++it) {
     const Symbol& s = (*this)[*it];
     if (*it < before && s.name_is == name_is && s.name_class == 'g') return *it;
   }

@@ -14,6 +14,7 @@
 
 #include "common/c_names.h"
 #include "common/names.h"
+#include "decl/name_index.h"
 
 namespace ycc {
 
@@ -151,17 +152,6 @@ class SymbolTable {
   std::vector<Symbol> symbols_;  // entry 0 unused
   // Every indexed entry by its name, and the typedef names alone, newest
   // last: a walk from the back meets inner scopes first.
-  // Looked up by string_view: no name is copied to be found.
-  // FNV-1a, in line: names are short, and every identifier is looked up.
-  struct NameHash {
-    using is_transparent = void;
-    size_t operator()(std::string_view s) const {
-      std::uint64_t h = 14695981039346656037u;
-      for (char c : s) h = (h ^ static_cast<unsigned char>(c)) * 1099511628211u;
-      return static_cast<size_t>(h);
-    }
-  };
-  using NameIndex = std::unordered_map<std::string, std::vector<int>, NameHash, std::equal_to<>>;
   NameIndex by_name_;
   NameIndex typedefs_;
   std::vector<Construction> constructions_;

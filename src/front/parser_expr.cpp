@@ -336,6 +336,17 @@ bool Parser::returns_call_at(std::size_t i) {
   if (i >= no_returns_base_ && i - no_returns_base_ < no_returns_call_.size() &&
       no_returns_call_[i - no_returns_base_])
     return false;
+  // Most names are followed by an operator: no list, no call to look for.
+  switch (tok_at(i + 1)) {
+    case T_LSQUAREBRACKET:
+    case T_DOT:
+    case T_COMMA:
+      break;
+    case T_ASSIGNEQUAL:
+      return callee_at(i + 2);
+    default:
+      return false;
+  }
   std::size_t j = i;
   for (;;) {
     j = skip_space_reference(j);

@@ -37,8 +37,8 @@ FunctionLabels Parser::collect_labels(std::size_t lbrace) const {
   FunctionLabels found;
   int braces = 0;
   int questions = 0;
-  for (std::size_t i = lbrace; toks_.contains(i); ++i) {
-    int t = toks_[i].tok;
+  for (std::size_t i = lbrace;; ++i) {
+    int t = toks_.tok_at(i);
     if (t == T_Eof) break;
     if (t == T_LCURLYBRACE) {
       ++braces;
@@ -53,10 +53,9 @@ FunctionLabels Parser::collect_labels(std::size_t lbrace) const {
     } else if (t == T_COLON) {
       if (questions > 0) {
         --questions;
-      } else if (i >= 2 && toks_[i - 1].tok == T_IDENTIFIER &&
-                 label_predecessors.has(toks_[i - 2].tok)) {
+      } else if (i >= 2 && toks_.tok_at(i - 1) == T_IDENTIFIER && label_predecessors.has(toks_.tok_at(i - 2))) {
         found.labels.push_back(&toks_[i - 1]);
-      } else if (i >= 2 && toks_[i - 1].tok == T_DECIMALINT && toks_[i - 2].tok == T_EXCEPTION) {
+      } else if (i >= 2 && toks_.tok_at(i - 1) == T_DECIMALINT && toks_.tok_at(i - 2) == T_EXCEPTION) {
         found.handlers.push_back(&toks_[i - 1]);
       }
     }

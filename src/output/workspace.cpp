@@ -110,19 +110,20 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   for (size_t i = 0; i < text.size();) {
     if (quote == 0) {
       // Outside literals, bytes before the width is passed, a newline or a
-      // quote cannot break the line or change the state: one append.
-      size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
-      size_t end = std::min(text.size(), i + room);
-      size_t j = next_break(text.data(), i, end);
-      // A newline outside literals only starts the next line: taken with the run.
-      bool newline = j < text.size() && text[j] == '\n';
-      if (j > i || newline) {
-        out.append(text.data() + i, j - i + (newline ? 1 : 0));
+      // quote cannot break the line or change the state; a newline only
+      // starts the next line. Such lines go out with one append.
+      const size_t run = i;
+      for (;;) {
+        size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
+        size_t j = next_break(text.data(), i, std::min(text.size(), i + room));
+        bool newline = j < text.size() && text[j] == '\n';
+        if (j > i || newline) backslashes = 0;
         column = newline ? 0 : column + static_cast<int>(j - i);
-        backslashes = 0;
         i = j + (newline ? 1 : 0);
-        continue;
+        if (!newline || i == text.size()) break;
       }
+      out.append(text.data() + run, i - run);
+      if (i == text.size()) break;
     }
     char c = text[i++];
     out.push_back(c);

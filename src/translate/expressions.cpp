@@ -402,7 +402,7 @@ void Translator::logical_and(const Token& op) {
   Operand rv = pop_operand();
   Code& joined = code(left);
   joined += std::move(rv.code);
-  if (!rv.jump_form()) joined += strf("\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
+  if (!rv.jump_form()) appendf(joined, "\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
   become_jump_form(operand(left), common, rv.true_label, reported);
 }
 
@@ -445,7 +445,7 @@ void Translator::logical_or(const Token& op) {
   Operand rv = pop_operand();
   Code& joined = code(left);
   joined += std::move(rv.code);
-  if (!rv.jump_form()) joined += strf("\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
+  if (!rv.jump_form()) appendf(joined, "\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
   become_jump_form(operand(left), rv.false_label, common, reported);
 }
 

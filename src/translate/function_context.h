@@ -3,6 +3,7 @@
 // function reaches the next.
 #pragma once
 
+#include <array>
 #include <map>
 #include <set>
 #include <string>
@@ -93,10 +94,11 @@ struct FunctionContext {
   std::vector<int> md_dims;
   std::map<int, int> md_next, md_declared;
 
-  // Temporaries: the next number of each type within a statement, and the
-  // highest declared in the function.
-  std::map<int, int> temp_next;
-  std::map<int, int> temp_declared;
+  // Temporaries: the next number of each type row within a statement, and
+  // the highest declared in the function.
+  static constexpr int temp_rows = 12;
+  std::array<int, temp_rows> temp_next{};
+  std::array<int, temp_rows> temp_declared{};
 };
 
 }  // namespace ycc

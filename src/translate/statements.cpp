@@ -71,7 +71,7 @@ void Translator::close_function_body(const Token& rbrace) {
 }
 
 void Translator::begin_statement(const Token& first) {
-  fn().temp_next.clear();
+  fn().temp_next.fill(0);
   fn().rt_next.clear();
   fn().md_next.clear();
   fn().frames.push_back({false, stack_size(), false, first.line});
@@ -154,9 +154,13 @@ void Translator::if_end(bool has_else, const Token& last) {
   Code& text = code(i);
   if (has_else) {
     std::string skip = generated("skip", ++skip_counter_);
-    text += then_code + strf("\ngoto %s;\n%s:", skip.c_str(), f.c_str()) + else_code + "\n" + skip + ":";
+    text += then_code;
+    appendf(text, "\ngoto %s;\n%s:", skip.c_str(), f.c_str());
+    text += else_code;
+    appendf(text, "\n%s:", skip.c_str());
   } else {
-    text += then_code + "\n" + f + ":";
+    text += then_code;
+    appendf(text, "\n%s:", f.c_str());
   }
   Operand& e = operand(i);
   e.value.clear();
@@ -175,10 +179,8 @@ void Translator::while_end(const Token& last) {
   if (!fn().loops.empty()) fn().loops.pop_back();
   std::string body = pop_text();
   std::string condition = pop_text();
-  replace_top(0,
-              "\n" + loop.cont + ":" + condition + body +
-                  strf("\ngoto %s;\n%s:", loop.cont.c_str(), loop.brk.c_str()),
-              last.line);
+  const std::string& c = loop.cont;
+  replace_top(0, concat({"\n", c, ":", condition, body, "\ngoto ", c, ";\n", loop.brk, ":"}), last.line);
 }
 
 void Translator::do_start(const Token&) {
@@ -196,8 +198,8 @@ void Translator::do_end(const Token& rparen) {
   rename_label(condition, own_false, loop.brk);
   std::string body = pop_text();
   replace_top(0,
-              "\n" + top + ":" + body + "\n" + loop.cont + ":" + condition.text() +
-                  strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
+              concat({"\n", top, ":", body, "\n", loop.cont, ":", condition.text(), "\ngoto ", top, ";\n", loop.brk,
+                      ":"}),
               rparen.line);
 }
 
@@ -234,8 +236,8 @@ void Translator::for_end(const Token& last) {
   }
   std::string top = generated("cont", ++cont_counter_);
   replace_top(0,
-              init + twice + "\n" + top + ":" + condition + body + "\n" + loop.cont + ":" + step +
-                  strf("\ngoto %s;\n%s:", top.c_str(), loop.brk.c_str()),
+              concat({init, twice, "\n", top, ":", condition, body, "\n", loop.cont, ":", step, "\ngoto ", top, ";\n",
+                      loop.brk, ":"}),
               last.line);
 }
 
@@ -510,7 +512,7 @@ void Translator::switch_end(const Token& rbrace) {
   std::string body = pop_text();
   int i = top_index();
   Code& text = code(i);
-  text += "\nswitch(" + operand(i).value + ")\n{" + body + "\n;}";
+  text += concat({"\nswitch(", operand(i).value, ")\n{", body, "\n;}"});
   operand(i).value.clear();
 }
 

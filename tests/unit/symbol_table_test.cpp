@@ -104,3 +104,33 @@ TEST(SymbolTable, ManyDeclarationsAndDeepBlocksStayCheap) {
 
 }  // namespace
 }  // namespace ycc
+
+namespace ycc {
+namespace {
+
+// The index grows past its first table many times; every name keeps its own
+// list, names that share a prefix or a length stay apart, and a name whose
+// list was emptied is found with an empty list.
+TEST(NameIndex, KeepsEveryNameApartThroughGrowth) {
+  NameIndex index;
+  const int n = 5000;
+  for (int i = 0; i < n; ++i) index["v" + std::to_string(i)].push_back(i);
+  index[""].push_back(-1);
+  for (int i = 0; i < n; ++i) {
+    const std::vector<int>* list = index.find("v" + std::to_string(i));
+    ASSERT_NE(list, nullptr) << i;
+    EXPECT_EQ(*list, std::vector<int>{i});
+  }
+  EXPECT_EQ(*index.find(""), std::vector<int>{-1});
+  EXPECT_EQ(index.find("v"), nullptr);
+  EXPECT_EQ(index.find("v5000"), nullptr);
+  EXPECT_EQ(index.find("w1"), nullptr);
+  index["v7"].clear();
+  ASSERT_NE(index.find("v7"), nullptr);
+  EXPECT_TRUE(index.find("v7")->empty());
+  index["v7"].push_back(70);
+  EXPECT_EQ(*index.find("v7"), std::vector<int>{70});
+}
+
+}  // namespace
+}  // namespace ycc
