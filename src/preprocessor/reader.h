@@ -50,10 +50,11 @@ class Reader {
 
   // Ordinary text that needs nothing but copying, from the current position:
   // the longest stretch of words, numbers, punctuators and the blanks between
-  // them that ends with a token on the current line. It stops before
-  // anything that starts a literal, comment, continuation or line end,
-  // before a character outside the character set, and before a word that
-  // `may_be_macro` accepts. Advances past it; empty when there is none.
+  // them, also across the ends of lines that hold only such text. It stops
+  // before anything that starts a literal, comment or continuation, before
+  // any other line end, before a character outside the character set, and
+  // before a word that `may_be_macro` accepts. Advances past it; empty when
+  // there is none.
   template <class MayBeMacro>
   std::string_view plain_run(MayBeMacro may_be_macro);
 
@@ -129,6 +130,24 @@ std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
       case PlainByte::punct:
         break;
       case PlainByte::stop:
+        // A line end right after a token of the run, before a line that
+        // begins with more plain text, goes with the run: ordinary code is
+        // copied many lines at a time. These end the run instead: trailing
+        // blanks, which the copy would keep; a line that continuations
+        // lengthened, whose end stands for several; a line end right after
+        // the token before the run, which may be a literal that joins one on
+        // the next line; lines that may begin a directive or a literal.
+        if (t_[p] == '\n' && p == last && last > pos_ && pending_ == 0) {
+          size_t r = p + 1;
+          while (r < n && t_[r] == ' ') ++r;
+          PlainByte k = r < n ? plain_bytes[static_cast<unsigned char>(t_[r])] : PlainByte::stop;
+          if (k == PlainByte::ident || k == PlainByte::digit || k == PlainByte::point ||
+              (k == PlainByte::punct && t_[r] != '#')) {
+            newline();
+            p = last = r;
+            continue;
+          }
+        }
         goto done;
     }
     // A word that a continuation extends is the reader's to join.

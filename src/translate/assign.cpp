@@ -54,7 +54,7 @@ void Translator::assignment(AssignMode mode, const Token& op) {
       e.value = e.value + " = " + t;
     } else {
       l.value.append(" ").append(o).append(" ").append(r.value);
-      code(left) += pop_code();
+      join_popped(left);
     }
     finish_assignment(left, reported, true);
     return;
@@ -119,7 +119,7 @@ void Translator::assignment(AssignMode mode, const Token& op) {
   // The left operand's checks are those of a written element.
   l.code.rewrite_written();
   l.value.append(" = ").append(r.value);
-  code(left) += pop_code();
+  join_popped(left);
   finish_assignment(left, reported, true);
 }
 
@@ -222,7 +222,7 @@ void Translator::aggregate_assignment(int left, bool move, const std::string& o,
   }
   // After an error no code is kept: nothing is walked.
   if (reported || diag_.errors > 0) {
-    code(left) += pop_code();
+    join_popped(left);
     finish_assignment(left, reported, false);
     return;
   }

@@ -86,7 +86,7 @@ void Translator::cast_assignment(int left, bool reported, int line) {
   }
   fn().cast_assigned = true;
   if (reported) {
-    code(left) += pop_code();
+    join_popped(left);
     finish_assignment(left, true, false);
     return;
   }
@@ -134,7 +134,7 @@ void Translator::cast_sequence(int left, bool store, const std::string& type, in
     if (collect.loops && !v.reported)
       diag_.error(line, "'=' : a value whose spaces lie inside the elements of spaces cannot pass through a casted "
                         "character space");
-    code(left) += pop_code();
+    join_popped(left);
     finish_assignment(left, true, false);
     return;
   }

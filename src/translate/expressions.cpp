@@ -364,7 +364,7 @@ void Translator::binary_operator(const Token& op) {
   // Appended in place: a long chain of operators stays linear.
   l.value.append(" ").append(o).append(" ").append(r.value);
   l.ref.reset();
-  code(left) += pop_code();
+  join_popped(left);
   Operand& e = operand(left);
   e.type_bits = bits;
   e.kind = 0;

@@ -16,6 +16,8 @@ char embedded_letter(char c) { return c == 'a' ? 'm' : c == 'e' ? 'n' : c == 'h'
 }  // namespace
 
 Code& Code::operator+=(Code&& other) {
+  // Most references have no checks to join.
+  if (other.text_.empty() && other.markers_.empty() && other.inserts_.empty()) return *this;
   size_t base = text_.size();
   if (text_.empty()) {
     text_ = std::move(other.text_);
@@ -25,7 +27,8 @@ Code& Code::operator+=(Code&& other) {
   }
   for (size_t p : other.markers_) markers_.push_back(base + p);
   for (size_t p : other.inserts_) inserts_.push_back(base + p);
-  other.take();
+  // Emptied, keeping the room of its text when it was copied.
+  other.clear();
   return *this;
 }
 

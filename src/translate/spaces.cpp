@@ -41,7 +41,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   bool pointer = container.empty() && (s.p_or_r == 'p' || s.p_or_r == 'r');
   // A variable of its own whose name C leaves alone, the common case, is
   // named without composing a new text.
-  const bool own_name = container.empty() && !clashes_with_c_headers(s.name);
+  const bool own_name = container.empty() && !s.clashes_with_c();
   std::string name = own_name ? std::string() : container.empty() ? c_name(s.name) : container + "." + c_name(s.name);
   const std::string& c_text = own_name ? s.name : name;
   r.sym = sym;
@@ -541,8 +541,10 @@ void Translator::end_space_reference(const Token& last) {
     }
   }
   r.checks_at = e.code.text().size();
-  e.code += std::move(r.checks);
-  r.checks = Code();
+  if (!r.checks.empty()) {
+    e.code += std::move(r.checks);
+    r.checks = Code();
+  }
   r.finished = true;
 }
 

@@ -47,6 +47,12 @@ Code Translator::pop_code() {
   return std::move(e.code);
 }
 
+void Translator::join_popped(int into) {
+  Operand& e = stack_[--depth_];
+  e.ref.reset();
+  code(into) += std::move(e.code);
+}
+
 void Translator::drop_operands(int n) {
   for (size_t k = std::min(depth_, static_cast<size_t>(std::max(n, 0))); k > 0; --k) stack_[--depth_].ref.reset();
 }

@@ -129,6 +129,9 @@ class Translator {
   Operand pop_operand();
   // The top operand's code (or text), the operand dropped.
   Code pop_code();
+  // Pops the top operand and appends its code to operand `into`'s; the
+  // popped slot keeps its room for the next push.
+  void join_popped(int into);
   std::string pop_text() { return pop_code().take(); }
   // Drops the top `n` operands (fewer when the stack is shorter).
   void drop_operands(int n);
