@@ -5,6 +5,9 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "common/text.h"
 
@@ -14,22 +17,57 @@ namespace {
 
 const char source_name[] = "yc";
 
-// The first byte in [i, end) that is a newline or a quote, or end. Eight
-// bytes at a time: a zero byte of x ^ pattern marks a match, and the lowest
-// marked byte is always a true one.
-size_t next_break(const char* text, size_t i, size_t end) {
-  if constexpr (std::endian::native == std::endian::little) {
-    constexpr std::uint64_t ones = 0x0101010101010101u, highs = 0x8080808080808080u;
-    auto zero_bytes = [](std::uint64_t y) { return (y - ones) & ~y & highs; };
-    for (; i + 8 <= end; i += 8) {
-      std::uint64_t x;
-      std::memcpy(&x, text + i, 8);
-      std::uint64_t hits = zero_bytes(x ^ (ones * '\n')) | zero_bytes(x ^ (ones * '\'')) | zero_bytes(x ^ (ones * '"'));
-      if (hits) return i + static_cast<size_t>(std::countr_zero(hits)) / 8;
-    }
+// Newlines and quotes among the sixteen bytes at `d` (or the `count` < 16
+// there), as a bit per byte.
+std::uint32_t breaks_in(const char* d, size_t count) {
+#if defined(__SSE2__)
+  if (count == 16) {
+    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d));
+    __m128i hits = _mm_or_si128(_mm_cmpeq_epi8(x, _mm_set1_epi8('\n')),
+                                _mm_or_si128(_mm_cmpeq_epi8(x, _mm_set1_epi8('\'')), _mm_cmpeq_epi8(x, _mm_set1_epi8('"'))));
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(hits));
   }
-  while (i < end && text[i] != '\n' && text[i] != '\'' && text[i] != '"') ++i;
-  return i;
+#endif
+  std::uint32_t mask = 0;
+  for (size_t k = 0; k < count; ++k)
+    if (d[k] == '\n' || d[k] == '\'' || d[k] == '"') mask |= std::uint32_t{1} << k;
+  return mask;
+}
+
+// Outside literals, a line goes out unchanged while it fits the width: the
+// end of the plain stretch that begins at `i`, which is a quote, the place
+// where a line reaches the width (the caller breaks it there), or the end.
+// A newline exactly at the width still ends its line. `column` follows.
+size_t plain_stretch(std::string_view text, size_t i, int& column, int width) {
+  const char* d = text.data();
+  const size_t n = text.size();
+  size_t line = i;  // where the part of the current line begins
+  size_t room = column < width ? static_cast<size_t>(width - column) : 0;
+  auto full = [&] {
+    column += static_cast<int>(room);
+    return line + room;
+  };
+  for (size_t block = i; block < n;) {
+    size_t count = std::min<size_t>(16, n - block);
+    for (std::uint32_t mask = breaks_in(d + block, count); mask != 0; mask &= mask - 1) {
+      size_t at = block + static_cast<size_t>(std::countr_zero(mask));
+      size_t length = at - line;
+      if (d[at] != '\n') {  // a quote
+        if (length > room) return full();
+        column += static_cast<int>(length);
+        return at;
+      }
+      if (length > room) return full();
+      column = 0;
+      line = at + 1;
+      room = static_cast<size_t>(width);
+    }
+    block += count;
+    if (block - line > room) return full();
+  }
+  if (n - line > room) return full();
+  column += static_cast<int>(n - line);
+  return n;
 }
 
 }  // namespace
@@ -109,20 +147,13 @@ void Workspace::write_file(std::string_view prefix, std::string_view text) {
   char quote = quote_;
   for (size_t i = 0; i < text.size();) {
     if (quote == 0) {
-      // Outside literals, bytes before the width is passed, a newline or a
-      // quote cannot break the line or change the state; a newline only
-      // starts the next line. Such lines go out with one append.
-      const size_t run = i;
-      for (;;) {
-        size_t room = column < output_width ? static_cast<size_t>(output_width - column) : 0;
-        size_t j = next_break(text.data(), i, std::min(text.size(), i + room));
-        bool newline = j < text.size() && text[j] == '\n';
-        if (j > i || newline) backslashes = 0;
-        column = newline ? 0 : column + static_cast<int>(j - i);
-        i = j + (newline ? 1 : 0);
-        if (!newline || i == text.size()) break;
+      // Outside literals, whole lines that fit the width go with one append.
+      size_t end = plain_stretch(text, i, column, output_width);
+      if (end > i) {
+        out.append(text.data() + i, end - i);
+        backslashes = 0;
+        i = end;
       }
-      out.append(text.data() + run, i - run);
       if (i == text.size()) break;
     }
     char c = text[i++];

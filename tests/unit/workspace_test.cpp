@@ -280,7 +280,7 @@ INSTANTIATE_TEST_SUITE_P(
         BreakCase{"newline_resets_the_column", std::string(70, 'x') + "\n" + repeat("b ", 3),
                   std::string(70, 'x') + "\n" + repeat("b ", 3)}));
 
-// Newlines and quotes are found eight bytes at a time: at every offset the
+// Newlines and quotes are found sixteen bytes at a time: at every offset the
 // newline must reset the column and the quote must open the literal.
 TEST(WorkspaceWriter, NewlineAndQuoteAtEveryOffset) {
   const std::string literal = "s = \"" + repeat("a, ", 30) + "\\\"\", t, u;";
@@ -289,6 +289,61 @@ TEST(WorkspaceWriter, NewlineAndQuoteAtEveryOffset) {
     Fixture f;
     f.make().put_text('n', std::string(static_cast<size_t>(k), 'x') + "\n" + literal);
     EXPECT_EQ(f.work_text(), std::string(static_cast<size_t>(k), 'x') + "\n" + broken) << k;
+  }
+}
+
+// The writer copies whole lines at a time; the rule it must keep is stated a
+// byte at a time: past column 72, outside literals, a blank or a comma ends
+// the line. Random texts of words, blanks, commas, newlines, quotes and
+// backslashes, written in random pieces, must come out as the rule says.
+std::string broken_by_rule(const std::string& text) {
+  std::string out;
+  int column = 0, backslashes = 0;
+  char quote = 0;
+  for (char c : text) {
+    out.push_back(c);
+    column = c == '\n' ? 0 : column + 1;
+    bool was_open = quote != 0;
+    if (!was_open) {
+      if (c == '\'' || c == '"') quote = c;
+    } else if (c == quote && backslashes % 2 == 0) {
+      quote = 0;
+    }
+    backslashes = (was_open && c == '\\') ? backslashes + 1 : 0;
+    if (column > 72 && (c == ' ' || c == ',') && quote == 0) {
+      out += "\n ";
+      column = 1;
+    }
+  }
+  return out;
+}
+
+TEST(WorkspaceWriter, WholeLinesAgreeWithTheByteRule) {
+  std::uint32_t seed = 12345;
+  auto next = [&seed](std::uint32_t below) {
+    seed = seed * 1103515245u + 12345u;
+    return (seed >> 8) % below;
+  };
+  const char* pieces[] = {"x", "abcd", "zzzz_false12", " ", ",", "\n", "'", "\"", "\\", ";"};
+  const std::uint32_t weights[] = {20, 20, 10, 15, 6, 8, 1, 1, 1, 5};
+  for (int round = 0; round < 300; ++round) {
+    std::string text;
+    size_t length = next(600);
+    while (text.size() < length) {
+      std::uint32_t pick = next(87), k = 0;
+      while (pick >= weights[k]) pick -= weights[k++];
+      // Some rounds have long lines, some many short ones.
+      if (k == 5 && round % 3 == 0) continue;
+      text += pieces[k];
+    }
+    Fixture f;
+    Workspace& ws = f.make();
+    for (size_t at = 0; at < text.size();) {
+      size_t piece = std::min<size_t>(text.size() - at, 1 + next(90));
+      ws.put_text('n', std::string_view(text).substr(at, piece));
+      at += piece;
+    }
+    ASSERT_EQ(f.work_text(), broken_by_rule(text)) << "round " << round << "\n" << text;
   }
 }
 
