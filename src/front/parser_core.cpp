@@ -29,12 +29,6 @@ const Token& Parser::peek(std::size_t k) const {
   return toks_.contains(i) ? toks_[i] : toks_.back();
 }
 
-const Token& Parser::advance() {
-  const Token& t = toks_[pos_];
-  if (t.tok != T_Eof) ++pos_;
-  return t;
-}
-
 bool Parser::accept(int tok) {
   if (!at(tok)) return false;
   advance();

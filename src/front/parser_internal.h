@@ -90,7 +90,12 @@ class Parser {
   const Token& peek(std::size_t k) const;
   int tok_at(std::size_t i) const { return toks_.tok_at(i); }
   bool at(int tok) const { return cur().tok == tok; }
-  const Token& advance();
+  // The current token, passed (Eof stays current).
+  const Token& advance() {
+    const Token& t = toks_[pos_];
+    if (t.tok != T_Eof) ++pos_;
+    return t;
+  }
   bool accept(int tok);
   // Consumes `tok` or reports a syntax error and recovers to `follow`.
   bool expect(int tok, const TokSet& follow);

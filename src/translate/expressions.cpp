@@ -39,12 +39,16 @@ void Translator::constant(const Token& t) {
   Operand& e = push_operand(t.line);
   e.literal = true;
   std::string_view view = t.text();
-  if (t.tok == T_DECIMALINT && !view.empty() && view.size() <= 9 &&
-      std::all_of(view.begin(), view.end(), [](char c) { return c >= '0' && c <= '9'; })) {
-    // The common small decimal: an int, its leading zeros dropped.
-    size_t nz = view.find_first_not_of('0');
-    e.value = nz == std::string_view::npos ? std::string_view("0") : view.substr(nz);
-    e.type_bits = 4;
+  // The common small decimal, an int or with "L" a long: its leading zeros
+  // dropped, its suffix kept.
+  const bool long_suffix = view.size() >= 2 && view.back() == 'L';
+  std::string_view digits = long_suffix ? view.substr(0, view.size() - 1) : view;
+  if (t.tok == T_DECIMALINT && !digits.empty() && digits.size() <= 9 &&
+      std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+    size_t nz = digits.find_first_not_of('0');
+    e.value = nz == std::string_view::npos ? std::string_view("0") : digits.substr(nz);
+    if (long_suffix) e.value += 'L';
+    e.type_bits = long_suffix ? 8 : 4;
     return;
   }
   std::string text(view);
@@ -160,7 +164,7 @@ void Translator::cast(const Token& lparen) {
       return;
     }
   }
-  e.value = "((" + type_words(type.type_bits) + ")(" + e.value + "))";
+  e.value = concat({"((", type_words(type.type_bits), ")(", e.value, "))"});
   e.type_bits = type.type_bits;
   e.kind = 0;
   e.type_sym = 0;
