@@ -84,7 +84,15 @@ constexpr size_t longest_keyword = [] {
 }();
 
 struct Spellings {
-  std::vector<Spelling> punctuators[128];
+  // Punctuators are at most three characters: one- and two-character ones
+  // are found by table, the few of three by a short list.
+  struct Punctuator {
+    int number = 0;
+    int length = 0;
+  };
+  int one[128] = {};
+  int two[128][128] = {};
+  std::vector<Spelling> three[128];
   std::vector<Spelling> keywords[26][longest_keyword + 1];
   Spellings() {
 #define TOKEN(number, name, spelling)                                                   \
@@ -92,13 +100,16 @@ struct Spellings {
   } else if (is_ident_start(spelling[0])) {                                            \
     keywords[spelling[0] - 'a'][std::string_view(spelling).size()].push_back({spelling, number}); \
   } else {                                                                             \
-    punctuators[static_cast<unsigned char>(spelling[0])].push_back({spelling, number}); \
+    add_punctuator({spelling, number});                                                \
   }
 #include "front/tokens.def"
 #undef TOKEN
-    for (auto& list : punctuators)
-      std::sort(list.begin(), list.end(),
-                [](const Spelling& a, const Spelling& b) { return a.text.size() > b.text.size(); });
+  }
+  void add_punctuator(Spelling p) {
+    auto at = [&](size_t k) { return static_cast<unsigned char>(p.text[k]) & 127; };
+    if (p.text.size() == 1) one[at(0)] = p.number;
+    else if (p.text.size() == 2) two[at(0)][at(1)] = p.number;
+    else three[at(0)].push_back(p);
   }
   int keyword(std::string_view word) const {
     if (word[0] < 'a' || word[0] > 'z' || word.size() > longest_keyword) return T_IDENTIFIER;
@@ -106,14 +117,20 @@ struct Spellings {
       if (same_text(k.text.data(), word.data(), word.size())) return k.number;
     return T_IDENTIFIER;
   }
-  // The longest punctuator at `at`, whose text runs on to `end`; null for none.
-  const Spelling* punctuator(const char* at, const char* end) const {
-    unsigned char c = static_cast<unsigned char>(*at);
-    if (c >= 128) return nullptr;
+  // The longest punctuator at `at`, whose text runs on to `end`; a length
+  // of 0 for none.
+  Punctuator punctuator(const char* at, const char* end) const {
+    unsigned char c = static_cast<unsigned char>(at[0]);
+    if (c >= 128) return {};
     size_t room = static_cast<size_t>(end - at);
-    for (const Spelling& p : punctuators[c])
-      if (p.text.size() <= room && same_text(p.text.data(), at, p.text.size())) return &p;
-    return nullptr;
+    unsigned char c1 = room > 1 ? static_cast<unsigned char>(at[1]) : 0;
+    if (c1 < 128) {
+      for (const Spelling& p : three[c])
+        if (room >= 3 && same_text(p.text.data(), at, 3)) return {p.number, 3};
+      if (int t = two[c][c1]) return {t, 2};
+    }
+    if (int t = one[c]) return {t, 1};
+    return {};
   }
 };
 
@@ -424,10 +441,10 @@ void Lexer::normal_step() {
     int tok;
     pos_ = number_end(pos_, tok);
     emit(tok, begin, pos_);
-  } else if (const Spelling* p = spellings_.punctuator(d + pos_, d + s_.size())) {
+  } else if (Spellings::Punctuator p = spellings_.punctuator(d + pos_, d + s_.size()); p.length > 0) {
     // The longest punctuator that matches wins.
-    pos_ += p->text.size();
-    emit(p->number, begin, pos_);
+    pos_ += static_cast<size_t>(p.length);
+    emit(p.number, begin, pos_);
   } else {
     // Not counted as an error; the raw line code is shown.
     err_ << strf("%s near line %d (text was '%c')\n", "invalid token", line_code(), c);
@@ -472,7 +489,7 @@ bool may_report(std::string_view text) {
     std::array<bool, 256> t{};
     for (int i = 0; i < 256; ++i) {
       char c = static_cast<char>(i);
-      t[static_cast<size_t>(i)] = byte_class(c) == ByteClass::other && !spellings().punctuator(&c, &c + 1);
+      t[static_cast<size_t>(i)] = byte_class(c) == ByteClass::other && spellings().punctuator(&c, &c + 1).length == 0;
     }
     return t;
   }();

@@ -130,7 +130,8 @@ void Translator::parenthesized(const Token& lparen) {
   // A parenthesised reference is a value: (int)(buf[i]) casts the character.
   e.ref.reset();
   if (e.jump_form() || e.value.empty()) return;
-  e.value = "(" + e.value + ")";
+  // In place: the value's room usually holds two more characters.
+  e.value.insert(0, 1, '(').push_back(')');
 }
 
 void Translator::syntax_error_operand(const Token& at) {
@@ -253,14 +254,14 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       std::string t = temporary(e.type_bits);
       const char* step = op.tok == T_PLUSPLUS ? "+" : "-";
       Code write = written_copy(e);
-      appendf(e.code, "\n%s = %s;", t.c_str(), e.value.c_str());
+      e.code.append({"\n", t, " = ", e.value, ";"});
       e.code += std::move(write);
       std::string store = strf("%s = %s %s 1", e.value.c_str(), t.c_str(), step);
       if (fix == Fix::Prefix) {
         e.value = store;
         e.emit = true;
       } else {
-        e.code += "\n" + store + ";";
+        e.code.append({"\n", store, ";"});
         e.value = t;
         e.emit = false;
       }
@@ -269,7 +270,7 @@ void Translator::unary_operator(const Token& op, Fix fix) {
       e.emit = true;
     } else {
       std::string t = temporary(e.type_bits);
-      appendf(code(i), "\n%s = %s;\n%s%s;", t.c_str(), e.value.c_str(), e.value.c_str(), o.c_str());
+      code(i).append({"\n", t, " = ", e.value, ";\n", e.value, o, ";"});
       e.value = t;
       e.emit = false;
     }
@@ -396,17 +397,17 @@ void Translator::logical_and(const Token& op) {
     if (l.true_label) {
       std::string t = true_name(l.true_label);
       if (last_goto_is_true(text.text()))
-        appendf(text, "\ngoto %s;\n%s:", f.c_str(), t.c_str());
+        text.append({"\ngoto ", f, ";\n", t, ":"});
       else
-        text += "\n" + t + ":";
+        text.append({"\n", t, ":"});
     }
   } else {
-    appendf(text, "\nif(!(%s)) goto %s;", l.value.c_str(), f.c_str());
+    text.append({"\nif(!(", l.value, ")) goto ", f, ";"});
   }
   Operand rv = pop_operand();
   Code& joined = code(left);
   joined += std::move(rv.code);
-  if (!rv.jump_form()) appendf(joined, "\nif(!(%s)) goto %s;", rv.value.c_str(), f.c_str());
+  if (!rv.jump_form()) joined.append({"\nif(!(", rv.value, ")) goto ", f, ";"});
   become_jump_form(operand(left), common, rv.true_label, reported);
 }
 
@@ -439,17 +440,17 @@ void Translator::logical_or(const Token& op) {
     if (l.false_label) {
       std::string f = false_name(l.false_label);
       if (!last_goto_is_true(text.text()))
-        appendf(text, "\ngoto %s;\n%s:", t.c_str(), f.c_str());
+        text.append({"\ngoto ", t, ";\n", f, ":"});
       else
-        text += "\n" + f + ":";
+        text.append({"\n", f, ":"});
     }
   } else {
-    appendf(text, "\nif(%s) goto %s;", l.value.c_str(), t.c_str());
+    text.append({"\nif(", l.value, ") goto ", t, ";"});
   }
   Operand rv = pop_operand();
   Code& joined = code(left);
   joined += std::move(rv.code);
-  if (!rv.jump_form()) appendf(joined, "\nif(%s) goto %s;", rv.value.c_str(), t.c_str());
+  if (!rv.jump_form()) joined.append({"\nif(", rv.value, ") goto ", t, ";"});
   become_jump_form(operand(left), rv.false_label, common, reported);
 }
 
@@ -533,9 +534,9 @@ void Translator::conditional(const Token& question, const Token& colon) {
   Operand ob = pop_operand();
   Code& joined = code(a);
   joined += std::move(ob.code);
-  appendf(joined, "\n%s = %s;\ngoto %s;\n%s:", t.c_str(), ob.value.c_str(), skip.c_str(), f.c_str());
+  joined.append({"\n", t, " = ", ob.value, ";\ngoto ", skip, ";\n", f, ":"});
   joined += std::move(oc.code);
-  appendf(joined, "\n%s = %s;\n%s:", t.c_str(), oc.value.c_str(), skip.c_str());
+  joined.append({"\n", t, " = ", oc.value, ";\n", skip, ":"});
   Operand& e = operand(a);
   e.ref.reset();
   e.value = t;

@@ -93,11 +93,11 @@ std::string Translator::control_on(int i) {
   if (e.true_label) {
     std::string t = true_name(e.true_label);
     if (last_goto_is_true(text.text()))
-      appendf(text, "\ngoto %s;\n%s:", f.c_str(), t.c_str());
+      text.append({"\ngoto ", f, ";\n", t, ":"});
     else
-      text += "\n" + t + ":";
+      text.append({"\n", t, ":"});
   } else if (!e.false_label) {
-    appendf(text, "\nif(!(%s)) goto %s;", e.value.c_str(), f.c_str());
+    text.append({"\nif(!(", e.value, ")) goto ", f, ";"});
   }
   e.false_label = number;
   e.true_label = 0;
@@ -110,7 +110,7 @@ void Translator::to_value(int i) {
   std::string t = temporary(4);
   Code& text = code(i);
   text.prepend(strf("\n%s = 0;", t.c_str()));
-  appendf(text, "\n%s = 1;\n%s:", t.c_str(), f.c_str());
+  text.append({"\n", t, " = 1;\n", f, ":"});
   Operand& e = operand(i);
   e.value = t;
   e.type_bits = 4;
@@ -125,14 +125,14 @@ void Translator::finish_expression(int i, bool as_statement) {
   Operand& e = operand(i);
   if (e.jump_form()) {
     std::string f = control_on(i);
-    code(i) += "\n" + f + ":";
+    code(i).append({"\n", f, ":"});
     operand(i).false_label = 0;
     operand(i).value.clear();
     return;
   }
   if (as_statement && e.emit && !e.value.empty()) {
     if (options_.versioned_loops && !fn().versions.empty()) collect_unchecked(e.value);
-    code(i) += "\n" + e.value + ";";
+    code(i).append({"\n", e.value, ";"});
   }
   e.value.clear();
   e.emit = false;

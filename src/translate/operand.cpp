@@ -126,7 +126,7 @@ void Reference::clear() {
   record.clear();
   object.clear();
   written.clear();
-  written_name.clear();
+  written_name_size = 0;
   subs.clear();
   checks.clear();
   last_checks = checks_at = 0;

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <algorithm>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -50,6 +51,15 @@ class Code {
     return *this;
   }
   Code& operator+=(const char* s) { return *this += std::string_view(s); }
+  // Plain pieces in order, with room made once: the common short statements
+  // ("\nif(!(" value ")) goto " label ";") without a format to read.
+  Code& append(std::initializer_list<std::string_view> pieces) {
+    size_t more = 0;
+    for (std::string_view p : pieces) more += p.size();
+    room(more);
+    for (std::string_view p : pieces) text_.append(p);
+    return *this;
+  }
   // The same, taking the text's block when this code is still empty.
   Code& operator+=(std::string&& s) {
     if (text_.empty() && s.capacity() >= text_.capacity()) {
@@ -117,7 +127,7 @@ struct Reference {
   std::string record;           // its meta record, when it is a space
   std::string object;           // C text of the object, when it is not
   std::string written;          // the reference as written so far
-  std::string written_name;     // ... up to the component's own subscripts
+  size_t written_name_size = 0;  // ... up to the component's own subscripts
   std::vector<Subscript> subs;  // the component's subscripts
   Code checks;                  // the checks of the components so far
   size_t last_checks = 0;       // where the last component's checks begin
@@ -137,6 +147,8 @@ struct Reference {
   std::string last_record;
   std::string last_name;
   std::vector<std::string> last_given;
+
+  std::string written_name() const { return written.substr(0, written_name_size); }
 
   // Back to a fresh reference, keeping the room of its texts and lists.
   void clear();

@@ -48,7 +48,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   if (container.empty()) r.root = sym;
   r.path.emplace_back(sym, false);
   r.subs.clear();
-  r.written_name = r.written;
+  r.written_name_size = r.written.size();
   r.pointer_record = pointer;
   r.record.clear();
   r.object.clear();
@@ -142,7 +142,7 @@ void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
       if (!why.empty()) {
         int position = static_cast<int>(e.ref->subs.size()) + 1;
         report(x, strf("the %d%s subscript given for '%s' %s", position, ordinal_suffix(position),
-                       e.ref->written_name.c_str(), why.c_str()));
+                       e.ref->written_name().c_str(), why.c_str()));
         ok = false;
       }
     }
@@ -173,9 +173,9 @@ void Translator::subscript(SubscriptKind kind, const Token& lbracket) {
   r.written += "[" + source + "]";
   if (!ref_op.reported) {
     if (s.dim_count() == 0) {
-      report(ref_op, strf("'%s' is dimensionless and cannot be subscripted", r.written_name.c_str()));
+      report(ref_op, strf("'%s' is dimensionless and cannot be subscripted", r.written_name().c_str()));
     } else if (static_cast<int>(r.subs.size()) >= s.dim_count()) {
-      report(ref_op, strf("too many subscripts given for '%s'", r.written_name.c_str()));
+      report(ref_op, strf("too many subscripts given for '%s'", r.written_name().c_str()));
     }
   }
   r.subs.push_back(sub);
@@ -198,7 +198,7 @@ void Translator::check_this(Operand& e) {
   if (thises > 0 && (thises > 1 || given > 0) && !e.reported)
     report(e, strf("misuse of '[this]' notation: correct usage is one occurrence of '[this]' and the remaining "
                    "subscripts of '%s' are empty '[]'",
-                   r.written_name.c_str()));
+                   r.written_name().c_str()));
 }
 
 void Translator::finish_component(Operand& e) {
@@ -217,7 +217,7 @@ void Translator::finish_component(Operand& e) {
     if (r.subs[k].kind == 0) {
       report(e, strf("'%s' has an empty subscript before a given one: only the last dimensions of a space can "
                      "be elided",
-                     r.written_name.c_str()));
+                     r.written_name().c_str()));
       return;
     }
   }
@@ -226,8 +226,8 @@ void Translator::finish_component(Operand& e) {
   r.last_given = given;
   r.last_sym = r.sym;
   r.last_record = r.record;
-  r.last_name = r.written_name;
-  r.checks += component_checks(r.sym, r.record, given, r.written_name, e.line, "");
+  r.last_name = r.written_name();
+  r.checks += component_checks(r.sym, r.record, given, r.written_name(), e.line, "");
   std::string address = element_address(r.sym, r.record, given);
   int k = static_cast<int>(given.size());
   if (k == n) {
@@ -452,7 +452,8 @@ void Translator::occurs(const Token& t) {
   }
   Reference& r = *e.ref;
   int n = symbols_[r.sym].dim_count();
-  const char* w = r.written_name.c_str();
+  const std::string written_name = r.written_name();
+  const char* w = written_name.c_str();
   bool only_this = r.subs.empty() || (r.subs.size() == 1 && r.subs[0].kind == 1);
   if (!e.reported) {
     if (n == 0)
@@ -480,7 +481,8 @@ void Translator::limit(const Token& t) {
   }
   Reference& r = *e.ref;
   int n = symbols_[r.sym].dim_count();
-  const char* w = r.written_name.c_str();
+  const std::string written_name = r.written_name();
+  const char* w = written_name.c_str();
   int dimension = 1;
   if (!e.reported) {
     int thises = 0, given = 0, at = 0;
@@ -616,7 +618,7 @@ bool Translator::character_space_cast(int i, const TypeName& type) {
   bool whole = e.dims > 0 && !e.partial;
   int sym = whole ? r.sym : r.last_sym;
   std::string record = whole ? r.record : r.last_record;
-  std::string name = whole ? r.written_name : r.last_name;
+  std::string name = whole ? r.written_name() : r.last_name;
   std::vector<std::string> subs = whole ? std::vector<std::string>() : r.last_given;
   if (!sym || symbols_[sym].dim_count() == 0) return false;
   const Symbol& s = symbols_[sym];

@@ -86,11 +86,14 @@ void Translator::end_statement(const Token& last) {
   if (options_.line_directives) mark_lines(code(top_index()), f.line);
   if (!fn().frames.empty() && !fn().frames.back().block) return;
   // A block item: flushed into the enclosing fragment or the work file.
-  std::string text = pop_text();
-  if (stack_size() == 0)
-    ws_.put_text('n', text);
-  else
-    code(top_index()) += std::move(text);
+  if (stack_size() > 1) {
+    join_popped_text(top_index() - 1);
+    return;
+  }
+  // Popped first: with no operand left, put_text writes to the work text.
+  Code& c = pop_code_in_place();
+  ws_.put_text('n', c.text());
+  c.clear();
 }
 
 void Translator::mark_lines(Code& c, int line_code) {
@@ -155,12 +158,12 @@ void Translator::if_end(bool has_else, const Token& last) {
   if (has_else) {
     std::string skip = generated("skip", ++skip_counter_);
     text += then_code;
-    appendf(text, "\ngoto %s;\n%s:", skip.c_str(), f.c_str());
+    text.append({"\ngoto ", skip, ";\n", f, ":"});
     text += else_code;
-    appendf(text, "\n%s:", skip.c_str());
+    text.append({"\n", skip, ":"});
   } else {
     text += then_code;
-    appendf(text, "\n%s:", f.c_str());
+    text.append({"\n", f, ":"});
   }
   Operand& e = operand(i);
   e.value.clear();

@@ -47,6 +47,19 @@ Code Translator::pop_code() {
   return std::move(e.code);
 }
 
+Code& Translator::pop_code_in_place() {
+  Operand& e = stack_[--depth_];
+  e.ref.reset();
+  return e.code;
+}
+
+void Translator::join_popped_text(int into) {
+  Operand& e = stack_[--depth_];
+  e.ref.reset();
+  code(into) += std::string_view(e.code.text());
+  e.code.clear();
+}
+
 void Translator::join_popped(int into) {
   Operand& e = stack_[--depth_];
   e.ref.reset();
@@ -72,10 +85,7 @@ void Translator::join_above(int level, int line) {
     push_operand(line);
     return;
   }
-  while (stack_size() > level + 1) {
-    Operand e = pop_operand();
-    code(top_index()) += e.code.take();
-  }
+  while (stack_size() > level + 1) join_popped_text(top_index() - 1);
 }
 
 void Translator::replace_top(int n, std::string text, int line) {

@@ -132,6 +132,10 @@ class Translator {
   // Pops the top operand and appends its code to operand `into`'s; the
   // popped slot keeps its room for the next push.
   void join_popped(int into);
+  // Pops the top operand; its code stays in the slot until the next push.
+  Code& pop_code_in_place();
+  // The same with the popped code's text alone: its markers are final.
+  void join_popped_text(int into);
   std::string pop_text() { return pop_code().take(); }
   // Drops the top `n` operands (fewer when the stack is shorter).
   void drop_operands(int n);
