@@ -541,6 +541,7 @@ class VarspaceWalk : public SpaceWalker::Visitor {
 // `meta` its meta record ("" for a plain structure).
 void Emitter::walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
                              std::string& out) {
+  if (!walks_anything(sub)) return;
   // An initialized variable had its companions set by its initializer.
   bool set_companions = !free && symbols_[sub].init_text.empty();
   VarspaceWalk visit(symbols_, free, set_companions, [this](int depth) { return loop_counter(depth); }, out);
@@ -552,7 +553,7 @@ void Emitter::free_block_varspaces(int first) {
   for (int sub = first; sub < symbols_.count(); ++sub) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
-    if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN)) continue;
+    if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN) || !walks_anything(sub)) continue;
     walk_varspaces(sub, c_name(s.name), s.is_var == 'y' ? c_name(s.name) : companion_name(sub), true, out);
   }
   if (!out.empty()) ws_.put_text('n', out);

@@ -82,6 +82,11 @@ class Emitter {
   // Initialises (or, at block end, frees) the varspaces nested in `sub`.
   void walk_varspaces(int sub, const std::string& object, const std::string& meta, bool free,
                       std::string& out);
+  // Whether a walk from `sub` meets a varspace: it is one, or its type is a
+  // structure that nests spaces. Most variables are neither.
+  bool walks_anything(int sub) const {
+    return symbols_[sub].is_var == 'y' || walker_.nesting_struct(sub) != 0;
+  }
   std::string loop_counter(int depth);
   bool takes_direct_form(int f, const std::vector<int>& params) const;
   // Where return variable `index` (0: the exception code) is found.

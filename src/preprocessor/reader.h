@@ -112,7 +112,9 @@ std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
     size_t q = p + 1;
     switch (plain_bytes[static_cast<unsigned char>(t_[p])]) {
       case PlainByte::blank:
-        ++p;
+        // Indentation comes in runs.
+        while (++p < n && t_[p] == ' ') {
+        }
         continue;
       case PlainByte::ident:
         while (q < n && is_ident_char(t_[q])) ++q;

@@ -104,8 +104,7 @@ std::string Translator::control_on(int i) {
   return f;
 }
 
-void Translator::to_value(int i) {
-  if (!operand(i).jump_form()) return;
+void Translator::jumps_to_value(int i) {
   std::string f = control_on(i);
   std::string t = temporary(4);
   Code& text = code(i);

@@ -137,22 +137,6 @@ void Reference::clear() {
   last_given.clear();
 }
 
-void Operand::reset() {
-  code.clear();
-  value.clear();
-  type_bits = type_sym = 0;
-  kind = 0;
-  dims = 0;
-  casted = false;
-  false_label = true_label = 0;
-  reported = emit = lvalue = literal = empty = aggregate_assigned = false;
-  line = 0;
-  partial = string_literal = false;
-  cast_record.clear();
-  format.clear();
-  ref.reset();
-}
-
 void appendf(Code& code, const char* fmt, ...) {
   va_list ap;
   va_start(ap, fmt);

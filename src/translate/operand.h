@@ -182,7 +182,21 @@ struct Operand {
   bool jump_form() const { return false_label != 0 || true_label != 0; }
   // Back to a fresh operand, keeping the room of its texts (every member
   // above has its default again).
-  void reset();
+  void reset() {
+    code.clear();
+    value.clear();
+    type_bits = type_sym = 0;
+    kind = 0;
+    dims = 0;
+    casted = false;
+    false_label = true_label = 0;
+    reported = emit = lvalue = literal = empty = aggregate_assigned = false;
+    line = 0;
+    partial = string_literal = false;
+    cast_record.clear();
+    format.clear();
+    ref.reset();
+  }
 };
 
 }  // namespace ycc

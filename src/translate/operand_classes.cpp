@@ -43,25 +43,6 @@ int arithmetic_result(int a, int b) {
   return 4;
 }
 
-bool class_passes(const Operand& e, int cls, bool refuse_aggregates) {
-  bool aggregate = e.dims > 0 || e.kind == 's' || e.casted;
-  auto is_function = [](const Operand& o) { return o.kind == 'n' || o.kind == 'd'; };
-  auto is_enum = [](const Operand& o) { return o.kind == 'e' || o.kind == 'c'; };
-  if (cls == 1) return aggregate;
-  bool arithmetic = e.type_bits != 0 && !e.empty;
-  if ((aggregate && refuse_aggregates) || e.empty) return false;
-  switch (cls) {
-    case 2: return arithmetic || is_function(e) || is_enum(e);
-    case 3: return is_function(e);
-    case 4: return is_enum(e);
-    case 5: return arithmetic;
-    case 6: return arithmetic && is_floating(e.type_bits);
-    case 7: return arithmetic && !is_floating(e.type_bits);
-    case 8: return arithmetic || is_enum(e);
-  }
-  return false;
-}
-
 std::string class_message(const Operand& e, int cls, bool refuse_aggregates) {
   if (class_passes(e, cls, refuse_aggregates)) return std::string();
   if (cls == 1) return "the required operand type is aggregate";
@@ -90,10 +71,8 @@ std::string class_message(const Operand& e, int cls, bool refuse_aggregates) {
   return std::string(what) + ", the required type is " + class_names[cls];
 }
 
-bool Translator::test_class(Operand& e, int cls, bool refuse_aggregates, const char* format,
-                            const std::string& op) {
-  if (e.reported) return false;
-  if (class_passes(e, cls, refuse_aggregates)) return true;
+bool Translator::report_class(Operand& e, int cls, bool refuse_aggregates, const char* format,
+                              const std::string& op) {
   std::string why = class_message(e, cls, refuse_aggregates);
   report(e, strf(format, op.c_str(), why.c_str()));
   return false;

@@ -23,21 +23,6 @@ Translator::Translator(const Options& options, Diagnostics& diag, Workspace& ws,
 
 Translator::~Translator() { ws_.fragment_sink = nullptr; }
 
-FunctionContext& Translator::fn() {
-  if (!fn_) fn_ = std::make_unique<FunctionContext>();
-  return *fn_;
-}
-
-Operand& Translator::push_operand(int line) {
-  if (depth_ == stack_.size())
-    stack_.emplace_back();
-  else
-    stack_[depth_].reset();
-  Operand& e = stack_[depth_++];
-  e.line = line;
-  return e;
-}
-
 Operand Translator::pop_operand() { return std::move(stack_[--depth_]); }
 
 // A dropped slot lets its reference go at once, so the pool can reuse it.

@@ -39,8 +39,25 @@ inline bool is_floating(int bits) { return (bits & 48) != 0; }
 // The operand class test (classes 1 to 8): empty when `e` passes, else the
 // class message ("cannot be a space, the required type is scalar").
 std::string class_message(const Operand& e, int cls, bool refuse_aggregates);
-// The same test without the message.
-bool class_passes(const Operand& e, int cls, bool refuse_aggregates);
+// The same test without the message (in line: every operator asks it).
+inline bool class_passes(const Operand& e, int cls, bool refuse_aggregates) {
+  bool aggregate = e.dims > 0 || e.kind == 's' || e.casted;
+  auto is_function = [](const Operand& o) { return o.kind == 'n' || o.kind == 'd'; };
+  auto is_enum = [](const Operand& o) { return o.kind == 'e' || o.kind == 'c'; };
+  if (cls == 1) return aggregate;
+  bool arithmetic = e.type_bits != 0 && !e.empty;
+  if ((aggregate && refuse_aggregates) || e.empty) return false;
+  switch (cls) {
+    case 2: return arithmetic || is_function(e) || is_enum(e);
+    case 3: return is_function(e);
+    case 4: return is_enum(e);
+    case 5: return arithmetic;
+    case 6: return arithmetic && is_floating(e.type_bits);
+    case 7: return arithmetic && !is_floating(e.type_bits);
+    case 8: return arithmetic || is_enum(e);
+  }
+  return false;
+}
 
 // What an aggregate operand of an assignment designates.
 struct Aggregate {
@@ -121,7 +138,16 @@ class Translator {
 
  private:
   // ---- The stack (translator.cpp) ----
-  Operand& push_operand(int line);
+  // A slot is reused with the room of its texts (the common case, in line).
+  Operand& push_operand(int line) {
+    if (depth_ == stack_.size()) [[unlikely]]
+      stack_.emplace_back();
+    else
+      stack_[depth_].reset();
+    Operand& e = stack_[depth_++];
+    e.line = line;
+    return e;
+  }
   Operand& operand(int i) { return stack_[static_cast<size_t>(i)]; }
   Operand& top() { return stack_[depth_ - 1]; }
   Code& code(int i) { return operand(i).code; }
@@ -152,7 +178,11 @@ class Translator {
   void replace_top(int n, std::string text, int line);
   void report(Operand& e, const std::string& text);
   // The function being translated (made on demand after a syntax error).
-  FunctionContext& fn();
+  FunctionContext& fn() {
+    if (!fn_) [[unlikely]]
+      fn_ = std::make_unique<FunctionContext>();
+    return *fn_;
+  }
   std::string generated(std::string_view word, int number = 0) const { return names_.generated(word, number); }
 
   // ---- Labels (labels.cpp) ----
@@ -172,7 +202,10 @@ class Translator {
   // The control expression on operand i: appends its test; returns the false label.
   std::string control_on(int i);
   // Jump form to value: the operand's labels become an int temporary.
-  void to_value(int i);
+  void to_value(int i) {
+    if (operand(i).jump_form()) jumps_to_value(i);
+  }
+  void jumps_to_value(int i);
   // An expression whose value is not used: labels placed, value emitted if marked.
   void finish_expression(int i, bool as_statement);
   void become_jump_form(Operand& e, int false_label, int true_label, bool reported);
@@ -180,7 +213,13 @@ class Translator {
                           bool aggregate);
 
   // ---- Operand classes (operand_classes.cpp) ----
-  bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op);
+  // Reports, with `format`, an operand outside class `cls`; the passing
+  // operand, the common case, is decided in line.
+  bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op) {
+    if (e.reported) return false;
+    return class_passes(e, cls, refuse_aggregates) || report_class(e, cls, refuse_aggregates, format, op);
+  }
+  bool report_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op);
   bool is_literal_zero(const Operand& e) const;
   bool is_enum(const Operand& e) const { return e.kind == 'e' || e.kind == 'c'; }
   bool is_function(const Operand& e) const { return e.kind == 'n' || e.kind == 'd'; }
