@@ -404,7 +404,7 @@ void Translator::logical_and(const Token& op) {
   } else {
     text.append({"\nif(!(", l.value, ")) goto ", f, ";"});
   }
-  Operand rv = pop_operand();
+  Operand& rv = pop_slot();
   Code& joined = code(left);
   joined += std::move(rv.code);
   if (!rv.jump_form()) joined.append({"\nif(!(", rv.value, ")) goto ", f, ";"});
@@ -447,7 +447,7 @@ void Translator::logical_or(const Token& op) {
   } else {
     text.append({"\nif(", l.value, ") goto ", t, ";"});
   }
-  Operand rv = pop_operand();
+  Operand& rv = pop_slot();
   Code& joined = code(left);
   joined += std::move(rv.code);
   if (!rv.jump_form()) joined.append({"\nif(", rv.value, ") goto ", t, ";"});
@@ -530,8 +530,8 @@ void Translator::conditional(const Token& question, const Token& colon) {
     return;
   }
   std::string t = temporary(kind ? 4 : bits);
-  Operand oc = pop_operand();
-  Operand ob = pop_operand();
+  Operand& oc = pop_slot();
+  Operand& ob = pop_slot();
   Code& joined = code(a);
   joined += std::move(ob.code);
   joined.append({"\n", t, " = ", ob.value, ";\ngoto ", skip, ";\n", f, ":"});

@@ -122,19 +122,24 @@ void Code::apply(const std::vector<Edit>& edits) {
 }
 
 void Reference::clear() {
-  sym = root = last_sym = subscripted = 0;
+  sym = root = subscripted = 0;
   record.clear();
   object.clear();
   written.clear();
   written_name_size = 0;
   subs.clear();
   checks.clear();
-  last_checks = checks_at = 0;
+  checks_at = 0;
   pointer_record = heap = finished = occurs_or_limit = false;
   path.clear();
-  last_record.clear();
-  last_name.clear();
-  last_given.clear();
+  // The last subscripted component is set all at once, with its symbol.
+  if (last_sym) {
+    last_sym = 0;
+    last_checks = 0;
+    last_record.clear();
+    last_name.clear();
+    last_given.clear();
+  }
 }
 
 void appendf(Code& code, const char* fmt, ...) {

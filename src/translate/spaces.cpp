@@ -47,11 +47,13 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   r.sym = sym;
   if (container.empty()) r.root = sym;
   r.path.emplace_back(sym, false);
-  r.subs.clear();
+  if (!container.empty()) {  // a root comes with a fresh reference
+    r.subs.clear();
+    r.record.clear();
+    r.object.clear();
+  }
   r.written_name_size = r.written.size();
   r.pointer_record = pointer;
-  r.record.clear();
-  r.object.clear();
   int t = symbols_.resolve_type(s.type_sym);
   bool structure = t && symbols_[t].name_is == 's';
   if (s.dim_count() > 0) {
@@ -396,7 +398,8 @@ void Translator::identifier(const Token& name) {
   ++symbols_[sub].ref_count;
   std::shared_ptr<Reference> r = new_reference();
   r->written = symbols_[sub].name;
-  enter_component(e, *r, sub, "");
+  static const std::string no_container;
+  enter_component(e, *r, sub, no_container);
   e.ref = std::move(r);
 }
 

@@ -160,6 +160,8 @@ class Translator {
   void join_popped(int into);
   // Pops the top operand; its code stays in the slot until the next push.
   Code& pop_code_in_place();
+  // Pops the top operand, which stays in its slot until the next push.
+  Operand& pop_slot() { return stack_[--depth_]; }
   // The same with the popped code's text alone: its markers are final.
   void join_popped_text(int into);
   std::string pop_text() { return pop_code().take(); }
