@@ -125,7 +125,7 @@ struct Reference {
   };
   int sym = 0;                  // the component: a variable or a member
   std::string record;           // its meta record, when it is a space
-  std::string object;           // C text of the object, when it is not
+  std::string object;           // C text of the object, when it is a structure
   std::string written;          // the reference as written so far
   size_t written_name_size = 0;  // ... up to the component's own subscripts
   std::vector<Subscript> subs;  // the component's subscripts

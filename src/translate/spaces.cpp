@@ -72,12 +72,12 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
       for (int k = 1; k <= s.dim_count(); ++k)
         appendf(r.checks, "\n%s.limit%d = %d;", r.record.c_str(), k, s.dims[static_cast<size_t>(k - 1)].size);
     }
-  } else {
-    if (pointer && structure)
-      r.object = "(*" + c_text + ")";
-    else
-      r.object = c_text;
+  } else if (structure) {
+    // Only a structure is read as an object again (its members, free).
+    r.object = pointer ? "(*" + c_text + ")" : c_text;
     e.value = r.object;
+  } else {
+    e.value = c_text;
   }
   e.type_bits = symbols_.type_bits_of(sym);
   e.type_sym = t;
