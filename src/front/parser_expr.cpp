@@ -240,7 +240,10 @@ void Parser::primary_expression() {
 void Parser::space_reference() {
   act_.identifier(advance());
   for (;;) {
-    if (at(T_LSQUAREBRACKET)) {
+    const int t = cur().tok;
+    // Most references are a name alone.
+    if (t != T_LSQUAREBRACKET && t != T_DOT) break;
+    if (t == T_LSQUAREBRACKET) {
       const Token& lbracket = advance();
       SubscriptKind kind = SubscriptKind::Expression;
       if (at(T_RSQUAREBRACKET)) {
@@ -253,14 +256,14 @@ void Parser::space_reference() {
       }
       expect(T_RSQUAREBRACKET, follow_expression);
       act_.subscript(kind, lbracket);
-    } else if (at(T_DOT) && tok_at(pos_ + 1) == T_IDENTIFIER) {
+    } else if (tok_at(pos_ + 1) == T_IDENTIFIER) {
       advance();
       act_.member(advance());
-    } else if (at(T_DOT) && tok_at(pos_ + 1) == T_OCCURS) {
+    } else if (tok_at(pos_ + 1) == T_OCCURS) {
       advance();
       act_.occurs(advance());
       break;
-    } else if (at(T_DOT) && tok_at(pos_ + 1) == T_LIMIT) {
+    } else if (tok_at(pos_ + 1) == T_LIMIT) {
       advance();
       act_.limit(advance());
       break;

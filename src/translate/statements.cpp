@@ -71,10 +71,12 @@ void Translator::close_function_body(const Token& rbrace) {
 }
 
 void Translator::begin_statement(const Token& first) {
-  fn().temp_next.fill(0);
-  fn().rt_next.clear();
-  fn().md_next.clear();
-  fn().frames.push_back({false, stack_size(), false, first.line});
+  FunctionContext& f = fn();
+  f.temp_next.fill(0);
+  // Calls used as values are rare: their counts are mostly empty already.
+  if (!f.rt_next.empty()) f.rt_next.clear();
+  if (!f.md_next.empty()) f.md_next.clear();
+  f.frames.push_back({false, stack_size(), false, first.line});
 }
 
 void Translator::end_statement(const Token& last) {

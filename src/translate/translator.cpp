@@ -55,8 +55,6 @@ void Translator::drop_operands(int n) {
   for (size_t k = std::min(depth_, static_cast<size_t>(std::max(n, 0))); k > 0; --k) stack_[--depth_].ref.reset();
 }
 
-int Translator::frame_floor() const { return fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0; }
-
 void Translator::add_missing_operands(int n, int line) {
   while (stack_size() - frame_floor() < n) {
     Operand& e = push_operand(line);

@@ -172,7 +172,7 @@ class Translator {
   void ensure_operands(int n, int line) {
     if (static_cast<int>(depth_) < n + frame_floor()) add_missing_operands(n, line);
   }
-  int frame_floor() const;
+  int frame_floor() const { return fn_ && !fn_->frames.empty() ? fn_->frames.back().level : 0; }
   void add_missing_operands(int n, int line);
   // Joins every operand above `level` into one.
   void join_above(int level, int line);
