@@ -436,7 +436,8 @@ std::string Emitter::return_slot(int index) const {
 }
 
 void Emitter::function_closing(int f) {
-  ws_.put_text('n', strf("\n\n%s: ;\n", names_.generated("finish").c_str()));
+  // Composed whole and written once.
+  std::string out = strf("\n\n%s: ;\n", names_.generated("finish").c_str());
   int index = 0;
   for (int p = f + 1; p < symbols_.count() && symbols_[p].owner == f; ++p) {
     const Symbol& r = symbols_[p];
@@ -446,29 +447,27 @@ void Emitter::function_closing(int f) {
     if (r.dim_count() > 0 || (t && symbols_[t].name_is == 's')) continue;
     if (t && symbols_[t].name_is == 'n')
       // A pointer to the caller's function pointer: "void (**) (...)".
-      ws_.put_text('n', strf("\n*((%s)(%s)) = %s;", fun_pointer(t, "*").c_str(), return_slot(index).c_str(),
-                             c_name(r.name).c_str()));
+      appendf(out, "\n*((%s)(%s)) = %s;", fun_pointer(t, "*").c_str(), return_slot(index).c_str(),
+              c_name(r.name).c_str());
     else
-      ws_.put_text('n', strf("\n*((%s *)(%s)) = %s;", element_type(p).c_str(), return_slot(index).c_str(),
-                             c_name(r.name).c_str()));
+      appendf(out, "\n*((%s *)(%s)) = %s;", element_type(p).c_str(), return_slot(index).c_str(),
+              c_name(r.name).c_str());
   }
-  free_block_varspaces(f + 1);
+  block_frees(f + 1, out);
   // What the translation left for the exit (the blocks of call temporaries).
-  if (!ws_.function_exit.empty()) {
-    std::string exit;
-    exit.swap(ws_.function_exit);
-    ws_.put_text('n', exit);
-  }
+  out += ws_.function_exit;
+  ws_.function_exit.clear();
   std::string exception = names_.generated("exception");
   if (!direct_function_) {
-    ws_.put_text('n', strf("\n*((int *)(%s)) = %s;", return_slot(0).c_str(), exception.c_str()));
-    ws_.put_text('n', "\n}\n");
+    appendf(out, "\n*((int *)(%s)) = %s;\n}\n", return_slot(0).c_str(), exception.c_str());
+    ws_.put_text('n', out);
     return;
   }
   // The described form stays, for function pointers and other files.
-  ws_.put_text('n', strf("\nreturn %s;\n}\n", exception.c_str()));
-  ws_.put_text('n', strf("\n\n%s\n{\n*((int *)(%s[0])) = %s;\n}\n", wrapper_.c_str(),
-                         names_.generated("return_ptr").c_str(), wrapper_call_.c_str()));
+  appendf(out, "\nreturn %s;\n}\n", exception.c_str());
+  appendf(out, "\n\n%s\n{\n*((int *)(%s[0])) = %s;\n}\n", wrapper_.c_str(), names_.generated("return_ptr").c_str(),
+          wrapper_call_.c_str());
+  ws_.put_text('n', out);
   direct_function_ = false;
 }
 
@@ -550,13 +549,17 @@ void Emitter::walk_varspaces(int sub, const std::string& object, const std::stri
 
 void Emitter::free_block_varspaces(int first) {
   std::string out;
+  block_frees(first, out);
+  if (!out.empty()) ws_.put_text('n', out);
+}
+
+void Emitter::block_frees(int first, std::string& out) {
   for (int sub = first; sub < symbols_.count(); ++sub) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
     if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN) || !walks_anything(sub)) continue;
     walk_varspaces(sub, c_name(s.name), s.is_var == 'y' ? c_name(s.name) : companion_name(sub), true, out);
   }
-  if (!out.empty()) ws_.put_text('n', out);
 }
 
 }  // namespace ycc

@@ -63,6 +63,8 @@ class Emitter {
   std::string direct_name(int sub) const;
   // Frees the varspaces of the block's variables from `first` on.
   void free_block_varspaces(int first);
+  // The same text, appended to `out`.
+  void block_frees(int first, std::string& out);
 
  private:
   std::string variable_text(int sub, bool member, bool local) const;

@@ -152,19 +152,21 @@ void Translator::control_expression(const Token& rparen) {
 
 void Translator::if_end(bool has_else, const Token& last) {
   ensure_operands(has_else ? 3 : 2, last.line);
-  std::string else_code = has_else ? pop_text() : std::string();
-  std::string then_code = pop_text();
+  // The branches are read in their slots, which nothing reuses before the end.
+  static const Code no_code;
+  const Code& else_code = has_else ? pop_code_in_place() : no_code;
+  const Code& then_code = pop_code_in_place();
   int i = top_index();
   std::string f = false_name(operand(i).false_label);
   Code& text = code(i);
   if (has_else) {
     std::string skip = generated("skip", ++skip_counter_);
-    text += then_code;
+    text += std::string_view(then_code.text());
     text.append({"\ngoto ", skip, ";\n", f, ":"});
-    text += else_code;
+    text += std::string_view(else_code.text());
     text.append({"\n", skip, ":"});
   } else {
-    text += then_code;
+    text += std::string_view(then_code.text());
     text.append({"\n", f, ":"});
   }
   Operand& e = operand(i);
@@ -180,12 +182,16 @@ void Translator::while_start(const Token& rparen) {
 
 void Translator::while_end(const Token& last) {
   ensure_operands(2, last.line);
-  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
-  if (!fn().loops.empty()) fn().loops.pop_back();
-  std::string body = pop_text();
-  std::string condition = pop_text();
+  FunctionContext::Loop loop{'p', "", ""};
+  if (!fn().loops.empty()) {
+    loop = std::move(fn().loops.back());
+    fn().loops.pop_back();
+  }
+  const Code& body = pop_code_in_place();
+  const Code& condition = pop_code_in_place();
   const std::string& c = loop.cont;
-  replace_top(0, concat({"\n", c, ":", condition, body, "\ngoto ", c, ";\n", loop.brk, ":"}), last.line);
+  replace_top(0, concat({"\n", c, ":", condition.text(), body.text(), "\ngoto ", c, ";\n", loop.brk, ":"}),
+              last.line);
 }
 
 void Translator::do_start(const Token&) {
@@ -195,16 +201,19 @@ void Translator::do_start(const Token&) {
 
 void Translator::do_end(const Token& rparen) {
   ensure_operands(2, rparen.line);
-  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
-  if (!fn().loops.empty()) fn().loops.pop_back();
+  FunctionContext::Loop loop{'p', "", ""};
+  if (!fn().loops.empty()) {
+    loop = std::move(fn().loops.back());
+    fn().loops.pop_back();
+  }
   std::string top = generated("cont", ++cont_counter_);
   std::string own_false = control_on(top_index());
-  Code condition = pop_code();
+  Code& condition = pop_code_in_place();
   rename_label(condition, own_false, loop.brk);
-  std::string body = pop_text();
+  const Code& body = pop_code_in_place();
   replace_top(0,
-              concat({"\n", top, ":", body, "\n", loop.cont, ":", condition.text(), "\ngoto ", top, ";\n", loop.brk,
-                      ":"}),
+              concat({"\n", top, ":", body.text(), "\n", loop.cont, ":", condition.text(), "\ngoto ", top, ";\n",
+                      loop.brk, ":"}),
               rparen.line);
 }
 
@@ -225,8 +234,11 @@ void Translator::for_start(const Token& keyword, bool has_init, bool has_conditi
 void Translator::for_end(const Token& last) {
   int heads = fn().for_heads.empty() ? 0 : fn().for_heads.back();
   if (!fn().for_heads.empty()) fn().for_heads.pop_back();
-  FunctionContext::Loop loop = fn().loops.empty() ? FunctionContext::Loop{'p', "", ""} : fn().loops.back();
-  if (!fn().loops.empty()) fn().loops.pop_back();
+  FunctionContext::Loop loop{'p', "", ""};
+  if (!fn().loops.empty()) {
+    loop = std::move(fn().loops.back());
+    fn().loops.pop_back();
+  }
   int count = 1 + ((heads & 1) ? 1 : 0) + ((heads & 2) ? 1 : 0) + ((heads & 4) ? 1 : 0);
   ensure_operands(count, last.line);
   std::string init, condition, step, body;
