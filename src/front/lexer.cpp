@@ -93,6 +93,7 @@ struct Spellings {
   int one[128] = {};
   int two[128][128] = {};
   std::vector<Spelling> three[128];
+  bool has_three[128] = {};
   std::vector<Spelling> keywords[26][longest_keyword + 1];
   Spellings() {
 #define TOKEN(number, name, spelling)                                                   \
@@ -109,7 +110,10 @@ struct Spellings {
     auto at = [&](size_t k) { return static_cast<unsigned char>(p.text[k]) & 127; };
     if (p.text.size() == 1) one[at(0)] = p.number;
     else if (p.text.size() == 2) two[at(0)][at(1)] = p.number;
-    else three[at(0)].push_back(p);
+    else {
+      three[at(0)].push_back(p);
+      has_three[at(0)] = true;
+    }
   }
   int keyword(std::string_view word) const {
     if (word[0] < 'a' || word[0] > 'z' || word.size() > longest_keyword) return T_IDENTIFIER;
@@ -125,8 +129,9 @@ struct Spellings {
     size_t room = static_cast<size_t>(end - at);
     unsigned char c1 = room > 1 ? static_cast<unsigned char>(at[1]) : 0;
     if (c1 < 128) {
-      for (const Spelling& p : three[c])
-        if (room >= 3 && same_text(p.text.data(), at, 3)) return {p.number, 3};
+      if (has_three[c])
+        for (const Spelling& p : three[c])
+          if (room >= 3 && same_text(p.text.data(), at, 3)) return {p.number, 3};
       if (int t = two[c][c1]) return {t, 2};
     }
     if (int t = one[c]) return {t, 1};
