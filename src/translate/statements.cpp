@@ -174,6 +174,15 @@ void Translator::if_end(bool has_else, const Token& last) {
   e.false_label = e.true_label = 0;
 }
 
+FunctionContext::Loop Translator::pop_loop() {
+  FunctionContext::Loop loop{'p', "", ""};
+  if (!fn().loops.empty()) {
+    loop = std::move(fn().loops.back());
+    fn().loops.pop_back();
+  }
+  return loop;
+}
+
 void Translator::while_start(const Token& rparen) {
   ensure_operands(1, rparen.line);
   std::string f = control_on(top_index());
@@ -182,11 +191,7 @@ void Translator::while_start(const Token& rparen) {
 
 void Translator::while_end(const Token& last) {
   ensure_operands(2, last.line);
-  FunctionContext::Loop loop{'p', "", ""};
-  if (!fn().loops.empty()) {
-    loop = std::move(fn().loops.back());
-    fn().loops.pop_back();
-  }
+  FunctionContext::Loop loop = pop_loop();
   const Code& body = pop_code_in_place();
   const Code& condition = pop_code_in_place();
   const std::string& c = loop.cont;
@@ -201,11 +206,7 @@ void Translator::do_start(const Token&) {
 
 void Translator::do_end(const Token& rparen) {
   ensure_operands(2, rparen.line);
-  FunctionContext::Loop loop{'p', "", ""};
-  if (!fn().loops.empty()) {
-    loop = std::move(fn().loops.back());
-    fn().loops.pop_back();
-  }
+  FunctionContext::Loop loop = pop_loop();
   std::string top = generated("cont", ++cont_counter_);
   std::string own_false = control_on(top_index());
   Code& condition = pop_code_in_place();
@@ -234,11 +235,7 @@ void Translator::for_start(const Token& keyword, bool has_init, bool has_conditi
 void Translator::for_end(const Token& last) {
   int heads = fn().for_heads.empty() ? 0 : fn().for_heads.back();
   if (!fn().for_heads.empty()) fn().for_heads.pop_back();
-  FunctionContext::Loop loop{'p', "", ""};
-  if (!fn().loops.empty()) {
-    loop = std::move(fn().loops.back());
-    fn().loops.pop_back();
-  }
+  FunctionContext::Loop loop = pop_loop();
   int count = 1 + ((heads & 1) ? 1 : 0) + ((heads & 2) ? 1 : 0) + ((heads & 4) ? 1 : 0);
   ensure_operands(count, last.line);
   std::string init, condition, step, body;

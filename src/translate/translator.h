@@ -158,13 +158,15 @@ class Translator {
   // Pops the top operand and appends its code to operand `into`'s; the
   // popped slot keeps its room for the next push.
   void join_popped(int into);
+  // The same with the popped code's text alone: its markers are final.
+  void join_popped_text(int into);
   // Pops the top operand; its code stays in the slot until the next push.
   Code& pop_code_in_place();
   // Pops the top operand, which stays in its slot until the next push.
   Operand& pop_slot() { return stack_[--depth_]; }
-  // The same with the popped code's text alone: its markers are final.
-  void join_popped_text(int into);
   std::string pop_text() { return pop_code().take(); }
+  // The innermost loop's labels, taken off (empty ones after a syntax error).
+  FunctionContext::Loop pop_loop();
   // Drops the top `n` operands (fewer when the stack is shorter).
   void drop_operands(int n);
   void clear_stack() { depth_ = 0; }
