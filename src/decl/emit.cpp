@@ -557,6 +557,7 @@ void Emitter::block_frees(int first, std::string& out) {
   for (int sub = first; sub < symbols_.count(); ++sub) {
     const Symbol& s = symbols_[sub];
     if (s.error_flags || s.name_is != 'v' || s.name_class != 'o' || s.p_or_r != 'n') continue;
+    // Most locals hold no varspace: no names are composed for them.
     if (s.storage & (STORAGE_STATIC | STORAGE_EXTERN) || !walks_anything(sub)) continue;
     walk_varspaces(sub, c_name(s.name), s.is_var == 'y' ? c_name(s.name) : companion_name(sub), true, out);
   }

@@ -74,22 +74,19 @@ struct Symbol {
   // by path from the variable ("[1].inner.f").
   std::vector<std::pair<std::string, int>> member_occurs;
 
- private:
-  mutable signed char c_clash_ = -1;
-
- public:
-
   // Whether C's headers declare the name (known on first use: names are
   // looked up for every reference, and never change once used).
   bool clashes_with_c() const {
     if (c_clash_ < 0) c_clash_ = clashes_with_c_headers(name) ? 1 : 0;
     return c_clash_ != 0;
   }
-
   int dim_count() const { return static_cast<int>(dims.size()); }
   bool anonymous() const { return !name.empty() && name[0] == '1'; }
   // The name for messages.
   std::string shown_name() const { return anonymous() ? "anonymous" : name; }
+
+ private:
+  mutable signed char c_clash_ = -1;
 };
 
 // The C name of a structure, enumeration or fun tag, anonymous ones included.

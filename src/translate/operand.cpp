@@ -15,9 +15,7 @@ char embedded_letter(char c) { return c == 'a' ? 'm' : c == 'e' ? 'n' : c == 'h'
 
 }  // namespace
 
-Code& Code::operator+=(Code&& other) {
-  // Most references have no checks to join.
-  if (other.text_.empty() && other.markers_.empty() && other.inserts_.empty()) return *this;
+Code& Code::join(Code&& other) {
   size_t base = text_.size();
   if (text_.empty()) {
     text_ = std::move(other.text_);

@@ -69,7 +69,11 @@ class Code {
     return *this += std::string_view(s);
   }
   // Another operand's code, its markers kept.
-  Code& operator+=(Code&& other);
+  Code& operator+=(Code&& other) {
+    // Most references have no checks to join: decided in line.
+    if (other.text_.empty() && other.markers_.empty() && other.inserts_.empty()) return *this;
+    return join(std::move(other));
+  }
   void prepend(std::string_view s);
 
   // Appends the marker line "\n##" + letter.
@@ -98,6 +102,7 @@ class Code {
   Code copy_from(size_t pos) const;
 
  private:
+  Code& join(Code&& other);
   void shift_from(size_t pos, std::ptrdiff_t delta);
   // Room for `more` bytes. A code grows by many small appends: it starts
   // with a few lines' room instead of doubling up from the string's own.

@@ -546,10 +546,7 @@ void Translator::end_space_reference(const Token& last) {
     }
   }
   r.checks_at = e.code.text().size();
-  if (!r.checks.empty()) {
-    e.code += std::move(r.checks);
-    r.checks = Code();
-  }
+  e.code += std::move(r.checks);
   r.finished = true;
 }
 

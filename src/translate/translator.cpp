@@ -26,11 +26,7 @@ Translator::~Translator() { ws_.fragment_sink = nullptr; }
 Operand Translator::pop_operand() { return std::move(stack_[--depth_]); }
 
 // A dropped slot lets its reference go at once, so the pool can reuse it.
-Code Translator::pop_code() {
-  Operand& e = stack_[--depth_];
-  e.ref.reset();
-  return std::move(e.code);
-}
+Code Translator::pop_code() { return std::move(pop_code_in_place()); }
 
 Code& Translator::pop_code_in_place() {
   Operand& e = stack_[--depth_];
@@ -39,17 +35,12 @@ Code& Translator::pop_code_in_place() {
 }
 
 void Translator::join_popped_text(int into) {
-  Operand& e = stack_[--depth_];
-  e.ref.reset();
-  code(into) += std::string_view(e.code.text());
-  e.code.clear();
+  Code& c = pop_code_in_place();
+  code(into) += std::string_view(c.text());
+  c.clear();
 }
 
-void Translator::join_popped(int into) {
-  Operand& e = stack_[--depth_];
-  e.ref.reset();
-  code(into) += std::move(e.code);
-}
+void Translator::join_popped(int into) { code(into) += std::move(pop_code_in_place()); }
 
 void Translator::drop_operands(int n) {
   for (size_t k = std::min(depth_, static_cast<size_t>(std::max(n, 0))); k > 0; --k) stack_[--depth_].ref.reset();
