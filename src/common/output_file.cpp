@@ -46,6 +46,11 @@ bool OutputFile::close() {
 }
 
 bool OutputFile::commit() {
+  // Renaming onto an existing file makes ext4 (auto_da_alloc) start writing
+  // the new file's data out inside rename(), some milliseconds for a large
+  // output; a generated file needs no such care, so the old one goes first.
+  // A directory of that name stays, and the rename then reports it.
+  remove_output(final_);
   if (std::rename(temp_.c_str(), final_.c_str()) != 0) return false;
   committed_ = true;
   return true;
