@@ -2,6 +2,8 @@
 // statement form, each calling its translation actions in order.
 #include "front/parser_internal.h"
 
+#include <array>
+
 namespace ycc {
 
 namespace {
@@ -34,31 +36,45 @@ void Parser::function_body() {
 // and where the ":" answers no pending "?" of a conditional, and
 // "exception N :".
 FunctionLabels Parser::collect_labels(std::size_t lbrace) const {
+  // Every body is read once more here, so the scan walks whole blocks of
+  // tokens and stops only at the few that matter.
+  static constexpr std::array<bool, 128> stops = [] {
+    std::array<bool, 128> a{};
+    for (int t : {T_Eof, T_LCURLYBRACE, T_RCURLYBRACE, T_SEMICOLON, T_QUESTIONMARK, T_COLON}) a[t] = true;
+    return a;
+  }();
   FunctionLabels found;
   int braces = 0;
   int questions = 0;
-  for (std::size_t i = lbrace;; ++i) {
-    int t = toks_.tok_at(i);
-    if (t == T_Eof) break;
-    if (t == T_LCURLYBRACE) {
-      ++braces;
-      questions = 0;
-    } else if (t == T_RCURLYBRACE) {
-      questions = 0;
-      if (--braces == 0) break;
-    } else if (t == T_SEMICOLON) {
-      questions = 0;
-    } else if (t == T_QUESTIONMARK) {
-      ++questions;
-    } else if (t == T_COLON) {
-      if (questions > 0) {
+  for (std::size_t i = lbrace;;) {
+    auto [run, n] = toks_.run_at(i);
+    if (!run) break;
+    for (std::size_t k = 0; k < n; ++k) {
+      const int t = run[k].tok;
+      if (!stops[t]) continue;
+      if (t == T_Eof) return found;
+      if (t == T_LCURLYBRACE) {
+        ++braces;
+        questions = 0;
+      } else if (t == T_RCURLYBRACE) {
+        questions = 0;
+        if (--braces == 0) return found;
+      } else if (t == T_SEMICOLON) {
+        questions = 0;
+      } else if (t == T_QUESTIONMARK) {
+        ++questions;
+      } else if (questions > 0) {  // a ":"
         --questions;
-      } else if (i >= 2 && toks_.tok_at(i - 1) == T_IDENTIFIER && label_predecessors.has(toks_.tok_at(i - 2))) {
-        found.labels.push_back(&toks_[i - 1]);
-      } else if (i >= 2 && toks_.tok_at(i - 1) == T_DECIMALINT && toks_.tok_at(i - 2) == T_EXCEPTION) {
-        found.handlers.push_back(&toks_[i - 1]);
+      } else if (std::size_t at = i + k; at >= 2) {
+        int before = toks_.tok_at(at - 1);
+        int before2 = toks_.tok_at(at - 2);
+        if (before == T_IDENTIFIER && label_predecessors.has(before2))
+          found.labels.push_back(&toks_[at - 1]);
+        else if (before == T_DECIMALINT && before2 == T_EXCEPTION)
+          found.handlers.push_back(&toks_[at - 1]);
       }
     }
+    i += n;
   }
   return found;
 }

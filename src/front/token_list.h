@@ -3,9 +3,11 @@
 // tokens then never all stand in memory at once.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "front/token.h"
@@ -59,6 +61,14 @@ class TokenList {
     if (i < count_) [[likely]]
       return static_cast<int>(at(i).tok);
     return reach(i) ? static_cast<int>(at(i).tok) : T_Eof;
+  }
+  // Tokens i, i+1, ... that stand together in one block, for scans that
+  // read many tokens in a row; empty (null) past the end of the list.
+  std::pair<const Token*, std::size_t> run_at(std::size_t i) const {
+    if (i >= count_ && !reach(i)) return {nullptr, 0};
+    std::size_t in_block = i & (TokenStore::block_size - 1);
+    std::size_t n = std::min(TokenStore::block_size - in_block, count_ - i);
+    return {&at(i), n};
   }
   // The index of a token of this list (one of the last few blocks).
   std::size_t index_of(const Token& t) const;
