@@ -25,7 +25,7 @@ class TokSet {
   }
   constexpr void add(int t) { bits_[t >> 6] |= std::uint64_t{1} << (t & 63); }
   constexpr bool has(int t) const {
-    return t >= 0 && t < 128 && (bits_[t >> 6] >> (t & 63) & 1) != 0;
+    return static_cast<unsigned>(t) < 128 && (bits_[t >> 6] >> (t & 63) & 1) != 0;
   }
   constexpr TokSet operator|(const TokSet& o) const {
     TokSet r;
@@ -86,14 +86,15 @@ class Parser {
 
  private:
   // ---- core: tokens ----
-  const Token& cur() const { return toks_[pos_]; }
+  // The current token is held by address: the parser reads it many times.
+  const Token& cur() const { return *cur_; }
   const Token& peek(std::size_t k) const;
   int tok_at(std::size_t i) const { return toks_.tok_at(i); }
-  bool at(int tok) const { return cur().tok == tok; }
+  bool at(int tok) const { return cur_->tok == static_cast<unsigned>(tok); }
   // The current token, passed (Eof stays current).
   const Token& advance() {
-    const Token& t = toks_[pos_];
-    if (t.tok != T_Eof) ++pos_;
+    const Token& t = *cur_;
+    if (t.tok != T_Eof) cur_ = &toks_.next(++pos_, cur_);
     return t;
   }
   bool accept(int tok);
@@ -192,6 +193,7 @@ class Parser {
 
   const TokenList& toks_;
   std::size_t pos_ = 0;
+  const Token* cur_;  // token pos_
   Actions& act_;
   SyntaxErrors& syntax_;
   int depth_ = 0;

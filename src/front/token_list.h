@@ -54,6 +54,13 @@ class TokenList {
       reach(i);
     return at(i);
   }
+  // Token i, given token i - 1 at `before`: the next one in its block
+  // when token i is made and stands there.
+  const Token& next(std::size_t i, const Token* before) const {
+    if (i < count_ && (i & (TokenStore::block_size - 1)) != 0) [[likely]]
+      return before[1];
+    return (*this)[i];
+  }
   // Whether token i exists.
   bool contains(std::size_t i) const { return i < count_ || reach(i); }
   // Token i's number, or Eof past the end.
