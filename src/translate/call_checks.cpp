@@ -71,7 +71,7 @@ bool Translator::check_argument(const CallSite& site, Operand& a, int param, int
     if (a.dims != dims)
       return fail(strf("%s : compared with %s, this call's %s must be a %d-dimensional space", site.head.c_str(),
                        site.reference.c_str(), what.c_str(), dims));
-    bool var = a.ref && !a.partial && symbols_[a.ref->sym].is_var == 'y';
+    bool var = a.ref && !a.partial && symbols_[a.ref.sym()].is_var == 'y';
     if (p.is_var == 'y' && !var) {
       bool elided = a.partial && a.ref && a.ref->last_sym && symbols_[a.ref->last_sym].is_var == 'y';
       return fail(strf("%s : this call's %s is a fixed-space%s, but a varspace is required because the %s %s is a "
@@ -104,11 +104,11 @@ bool Translator::check_return_variable(const CallSite& site, Operand& v, int ret
       return fail(strf("%s : compared with %s, this call's %s cannot be a space", site.head.c_str(),
                        site.reference.c_str(), what.c_str()));
   } else {
-    bool whole_var = v.ref && !v.partial && v.dims == dims && symbols_[v.ref->sym].is_var == 'y';
+    bool whole_var = v.ref && !v.partial && v.dims == dims && symbols_[v.ref.sym()].is_var == 'y';
     if (!whole_var)
       return fail(strf("%s : compared with %s, this call's %s must be a %d-dimensional varspace%s", site.head.c_str(),
                        site.reference.c_str(), what.c_str(), dims,
-                       v.ref && v.ref->subscripted > 0 ? " with all dimensions elided" : ""));
+                       v.ref && v.ref.subscripted() > 0 ? " with all dimensions elided" : ""));
   }
   std::string why = type_mismatch(site, v, ret, what);
   return why.empty() ? true : fail(why);
@@ -169,7 +169,7 @@ bool Translator::check_integrity(const CallSite& site, int returns_at, int retur
   }
   const char* head = site.head.c_str();
   auto nests_varspace = [&](const Operand& o) {
-    if (o.ref && symbols_[o.ref->sym].is_var == 'y' && o.dims > 0) return true;
+    if (o.ref && symbols_[o.ref.sym()].is_var == 'y' && o.dims > 0) return true;
     int t = o.kind == 's' ? o.type_sym : 0;
     return t && symbols_[t].vf_flags[0] == 'y';
   };

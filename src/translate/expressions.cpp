@@ -550,7 +550,7 @@ void Translator::conditional(const Token& question, const Token& colon) {
 }
 
 bool Translator::checked_store(const Operand& e) const {
-  return e.ref && e.ref->finished && e.ref->subscripted > 0 && !e.code.empty();
+  return e.ref && e.ref.finished() && e.ref.subscripted() > 0 && !e.code.empty();
 }
 
 Code Translator::written_copy(const Operand& e) const {

@@ -139,7 +139,7 @@ bool Translator::check_format(const CallSite& site, int args_at, int count, bool
     if (scanf) {
       if (letter == 's') {
         if (!character_space) return incompatible();
-        bool var = a.ref && !a.partial && symbols_[a.ref->sym].is_var == 'y';
+        bool var = a.ref && !a.partial && symbols_[a.ref.sym()].is_var == 'y';
         if (!var)
           return fail(strf("%s : this call's %s argument must be a varspace, not a fixed-space", head,
                            which_arg.c_str()));

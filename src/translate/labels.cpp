@@ -15,8 +15,12 @@ bool Translator::last_goto_is_true(const std::string& text) const {
   size_t at = text.rfind("goto ");
   if (at != std::string::npos) {
     std::string_view rest = std::string_view(text).substr(at + 5);
-    if (rest.starts_with(generated("false"))) return false;
-    if (rest.starts_with(generated("true"))) return true;
+    const std::string& start = names_.generated_start();
+    if (rest.starts_with(start)) {
+      rest.remove_prefix(start.size());
+      if (rest.starts_with("false")) return false;
+      if (rest.starts_with("true")) return true;
+    }
   }
   internal_check_failed("goto scan finds a false or a true label", source_name, __LINE__);
 }

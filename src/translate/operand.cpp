@@ -4,6 +4,7 @@
 #include <cstdarg>
 
 #include "common/text.h"
+#include "decl/symbol_table.h"
 
 namespace ycc {
 
@@ -138,6 +139,19 @@ void Reference::clear() {
     last_name.clear();
     last_given.clear();
   }
+}
+
+void ReferenceSlot::make_whole() const {
+  auto r = std::make_shared<Reference>();
+  r->sym = r->root = plain_sym_;
+  r->path.emplace_back(plain_sym_, false);
+  r->written = (*table_)[plain_sym_].name;
+  r->written_name_size = r->written.size();
+  r->pointer_record = plain_pointer_;
+  r->finished = plain_finished_;
+  r->checks_at = plain_finished_ ? plain_checks_at_ : 0;
+  ref_ = std::move(r);
+  plain_sym_ = 0;
 }
 
 void appendf(Code& code, const char* fmt, ...) {

@@ -159,6 +159,65 @@ struct Reference {
   void clear();
 };
 
+class SymbolTable;
+
+// The space reference of an operand. A variable without dimensions that is
+// not a structure, named alone, is most of all references; it is kept as its
+// symbol, and made a whole Reference only where one is read.
+class ReferenceSlot {
+ public:
+  explicit operator bool() const { return ref_ != nullptr || plain_sym_ != 0; }
+  Reference* operator->() const { return &get(); }
+  Reference& operator*() const { return get(); }
+  ReferenceSlot& operator=(std::shared_ptr<Reference> r) {
+    ref_ = std::move(r);
+    plain_sym_ = 0;
+    return *this;
+  }
+  void reset() {
+    ref_.reset();
+    plain_sym_ = 0;
+  }
+
+  // The variable `sym` of `table` named alone; `pointer` when its value is
+  // reached through a pointer (a parameter or return variable).
+  void set_plain(const SymbolTable& table, int sym, bool pointer) {
+    ref_.reset();
+    table_ = &table;
+    plain_sym_ = sym;
+    plain_pointer_ = pointer;
+    plain_finished_ = false;
+  }
+  // What the end of a reference records; `checks_at` is where its checks
+  // (none) begin in the operand's code.
+  void finish_plain(size_t checks_at) {
+    plain_finished_ = true;
+    plain_checks_at_ = checks_at;
+  }
+  bool plain() const { return plain_sym_ != 0; }
+
+  // Facts read often, answered without making a plain reference whole.
+  int sym() const { return plain_sym_ ? plain_sym_ : ref_->sym; }
+  int subscripted() const { return plain_sym_ ? 0 : ref_->subscripted; }
+  bool finished() const { return plain_sym_ ? plain_finished_ : ref_->finished; }
+
+ private:
+  Reference& get() const {
+    if (plain_sym_) [[unlikely]]
+      make_whole();
+    return *ref_;
+  }
+  // The Reference that naming the variable alone would have built.
+  void make_whole() const;
+
+  mutable std::shared_ptr<Reference> ref_;
+  mutable int plain_sym_ = 0;
+  bool plain_pointer_ = false;
+  bool plain_finished_ = false;
+  size_t plain_checks_at_ = 0;
+  const SymbolTable* table_ = nullptr;
+};
+
 // One entry of the expression/statement stack.
 struct Operand {
   Code code;              // statements that run before the value is used
@@ -182,7 +241,7 @@ struct Operand {
   bool string_literal = false;
   std::string cast_record;  // a casted character space: the space's record
   std::string format;     // a string literal's text between its quotes
-  std::shared_ptr<Reference> ref;  // while it is a space reference
+  ReferenceSlot ref;      // while it is a space reference
 
   bool jump_form() const { return false_label != 0 || true_label != 0; }
   // Back to a fresh operand, keeping the room of its texts (every member

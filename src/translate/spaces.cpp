@@ -79,6 +79,10 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
   } else {
     e.value = c_text;
   }
+  component_facts(e, sym, t);
+}
+
+void Translator::component_facts(Operand& e, int sym, int t) const {
   e.type_bits = symbols_.type_bits_of(sym);
   e.type_sym = t;
   e.kind = 0;
@@ -86,7 +90,7 @@ void Translator::enter_component(Operand& e, Reference& r, int sym, const std::s
     char k = symbols_[t].name_is;
     e.kind = k == 's' ? 's' : k == 'e' ? 'e' : k == 'n' ? 'n' : 0;
   }
-  e.dims = s.dim_count();
+  e.dims = symbols_[sym].dim_count();
   e.partial = false;
   e.lvalue = true;
 }
@@ -390,12 +394,27 @@ void Translator::identifier(const Token& name) {
     report(e, strf("'%s' is an undeclared identifier", e.value.c_str()));
     return;
   }
-  if (symbols_[sub].name_is != 'v') {
+  const Symbol& s = symbols_[sub];
+  if (s.name_is != 'v') {
     fill_from_symbol(e, sub);
     return;
   }
   // A variable: the reference sets what the symbol tells.
   ++symbols_[sub].ref_count;
+  if (s.dim_count() == 0) {
+    int t = symbols_.resolve_type(s.type_sym);
+    if (!t || symbols_[t].name_is != 's') {
+      // Most references: no dimensions, no members. Any subscript or member
+      // that follows makes the reference whole first.
+      e.ref.set_plain(symbols_, sub, s.p_or_r == 'p' || s.p_or_r == 'r');
+      if (s.clashes_with_c())
+        e.value = c_name(s.name);
+      else
+        e.value = s.name;
+      component_facts(e, sub, t);
+      return;
+    }
+  }
   std::shared_ptr<Reference> r = new_reference();
   r->written = symbols_[sub].name;
   static const std::string no_container;
@@ -533,6 +552,10 @@ void Translator::end_space_reference(const Token& last) {
   ensure_operands(1, last.line);
   Operand& e = top();
   if (!e.ref) return;
+  if (e.ref.plain()) {
+    e.ref.finish_plain(e.code.text().size());
+    return;
+  }
   Reference& r = *e.ref;
   if (!r.occurs_or_limit) {
     if (this_used(r)) {
@@ -611,7 +634,8 @@ void Translator::sizeof_expr(const Token& keyword) {
 
 bool Translator::character_space_cast(int i, const TypeName& type) {
   Operand& e = operand(i);
-  if (!e.ref || !e.ref->finished || e.ref->occurs_or_limit) return false;
+  // A variable without dimensions has no character space to cast.
+  if (!e.ref || e.ref.plain() || !e.ref->finished || e.ref->occurs_or_limit) return false;
   Reference& r = *e.ref;
   // The space the cast reads or writes: the last component, whole, partly
   // elided or subscripted down to one character.

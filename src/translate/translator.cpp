@@ -23,6 +23,8 @@ Translator::Translator(const Options& options, Diagnostics& diag, Workspace& ws,
 
 Translator::~Translator() { ws_.fragment_sink = nullptr; }
 
+void Translator::make_function_context() { fn_ = std::make_unique<FunctionContext>(); }
+
 Operand Translator::pop_operand() { return std::move(stack_[--depth_]); }
 
 // A dropped slot lets its reference go at once, so the pool can reuse it.

@@ -184,9 +184,11 @@ class Translator {
   // The function being translated (made on demand after a syntax error).
   FunctionContext& fn() {
     if (!fn_) [[unlikely]]
-      fn_ = std::make_unique<FunctionContext>();
+      make_function_context();
     return *fn_;
   }
+  // Out of line, so that fn() stays small enough to inline everywhere.
+  [[gnu::noinline]] void make_function_context();
   std::string generated(std::string_view word, int number = 0) const { return names_.generated(word, number); }
 
   // ---- Labels (labels.cpp) ----
@@ -238,6 +240,8 @@ class Translator {
 
   // ---- Space references (spaces.cpp) ----
   void enter_component(Operand& e, Reference& r, int sym, const std::string& container);
+  // The operand's type facts for component `sym`, whose resolved type is `t`.
+  void component_facts(Operand& e, int sym, int t) const;
   // The record of space `sym` named on its own, `c_text` being its C name:
   // parameters and returns arrive as pointers, fixed-spaces have companions.
   std::string own_record(int sym, std::string_view c_text) const;
