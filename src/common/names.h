@@ -16,6 +16,8 @@ class Names {
   // Labels, temporaries and generated functions: the prefix twice, "_", the
   // word, and the number when it is 1 or more ("zzzz_false7", "zzzz_finish").
   std::string generated(std::string_view word, int number = 0) const;
+  // What every generated name begins with: the prefix twice and "_".
+  const std::string& generated_start() const { return generated_start_; }
   // The meta record type of a space with `dims` dimensions ("zz2D_meta").
   std::string meta_type(int dims) const;
   // The companion meta record of the fixed-space `name` ("zz_v").
