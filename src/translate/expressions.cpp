@@ -305,7 +305,8 @@ void Translator::binary_operator(const Token& op) {
   int right = top_index();
   to_value(left);
   to_value(right);
-  std::string o = op_text(op);
+  // The operator's text is needed whole only in messages.
+  const std::string_view o = op.text();
   int cls = 5;
   bool comparison = false;
   switch (op.tok) {
@@ -341,33 +342,34 @@ void Translator::binary_operator(const Token& op) {
   if (ok && comparison) {
     if (is_enum(l) && is_enum(r)) {
       if (l.type_sym != r.type_sym) {
-        diag_.error(op.line, strf("'%s' : the two operands have incompatible enumeration types", o.c_str()));
+        diag_.error(op.line, strf("'%s' : the two operands have incompatible enumeration types", std::string(o).c_str()));
         ok = false;
       }
     } else if ((is_enum(l) && !is_literal_zero(r)) || (is_enum(r) && !is_literal_zero(l))) {
       diag_.error(op.line,
                   strf("'%s' : an enumeration type cannot be compared to other types, with the sole "
                        "exception of comparison with literal 0 (zero)",
-                       o.c_str()));
+                       std::string(o).c_str()));
       ok = false;
     }
     if (is_function(l) && is_function(r)) {
       if (!same_function_type(l.type_sym, r.type_sym)) {
-        diag_.error(op.line, strf("'%s' : the two operands have incompatible function types", o.c_str()));
+        diag_.error(op.line, strf("'%s' : the two operands have incompatible function types", std::string(o).c_str()));
         ok = false;
       }
     } else if ((is_function(l) && !is_literal_zero(r)) || (is_function(r) && !is_literal_zero(l))) {
       diag_.error(op.line,
                   strf("'%s' : a function type cannot be compared to other types, with the sole "
                        "exception of comparison with literal 0 (zero)",
-                       o.c_str()));
+                       std::string(o).c_str()));
       ok = false;
     }
   }
   int bits = comparison ? 4 : arithmetic_result(l.type_bits, r.type_bits);
   bool literal = l.literal && r.literal;
   // Appended in place: a long chain of operators stays linear.
-  l.value.append(" ").append(o).append(" ").append(r.value);
+  l.value.reserve(l.value.size() + o.size() + r.value.size() + 2);
+  l.value.append(1, ' ').append(o).append(1, ' ').append(r.value);
   l.ref.reset();
   join_popped(left);
   Operand& e = operand(left);

@@ -72,9 +72,9 @@ std::string class_message(const Operand& e, int cls, bool refuse_aggregates) {
 }
 
 bool Translator::report_class(Operand& e, int cls, bool refuse_aggregates, const char* format,
-                              const std::string& op) {
+                              std::string_view op) {
   std::string why = class_message(e, cls, refuse_aggregates);
-  report(e, strf(format, op.c_str(), why.c_str()));
+  report(e, strf(format, std::string(op).c_str(), why.c_str()));
   return false;
 }
 

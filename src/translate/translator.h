@@ -221,11 +221,11 @@ class Translator {
   // ---- Operand classes (operand_classes.cpp) ----
   // Reports, with `format`, an operand outside class `cls`; the passing
   // operand, the common case, is decided in line.
-  bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op) {
+  bool test_class(Operand& e, int cls, bool refuse_aggregates, const char* format, std::string_view op) {
     if (e.reported) return false;
     return class_passes(e, cls, refuse_aggregates) || report_class(e, cls, refuse_aggregates, format, op);
   }
-  bool report_class(Operand& e, int cls, bool refuse_aggregates, const char* format, const std::string& op);
+  bool report_class(Operand& e, int cls, bool refuse_aggregates, const char* format, std::string_view op);
   bool is_literal_zero(const Operand& e) const;
   bool is_enum(const Operand& e) const { return e.kind == 'e' || e.kind == 'c'; }
   bool is_function(const Operand& e) const { return e.kind == 'n' || e.kind == 'd'; }
