@@ -22,7 +22,7 @@ class NameIndex {
       std::uint64_t slot = slots_[i];
       if (slot == 0) return nullptr;
       const Entry& e = entries_[(slot & low_bits) - 1];
-      if ((slot & ~low_bits) == (h & ~low_bits) && e.name == name) return &e.subs;
+      if ((slot & ~low_bits) == (h & ~low_bits) && same_name(e.name, name)) return &e.subs;
     }
   }
   std::vector<int>* find(std::string_view name) {
@@ -39,6 +39,13 @@ class NameIndex {
   static constexpr size_t initial_slots = 256;
   static constexpr std::uint64_t low_bits = 0xffffffffu;
 
+  // Names are short: compared in line, not through the library's memcmp.
+  static bool same_name(const std::string& a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < b.size(); ++i)
+      if (a[i] != b[i]) return false;
+    return true;
+  }
   // FNV-1a, in line: names are short.
   static std::uint64_t hash(std::string_view s) {
     std::uint64_t h = 14695981039346656037u;
