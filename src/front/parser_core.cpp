@@ -21,7 +21,7 @@ const char* base_name(const char* path) {
 Parser::Parser(const TokenList& tokens, Actions& actions, SyntaxErrors& syntax)
     : toks_(tokens), act_(actions), syntax_(syntax) {
   YCC_CHECK(toks_.contains(0), "yc");
-  cur_ = &toks_[0];
+  cur_ = last_ = &toks_[0];
 }
 
 const Token& Parser::peek(std::size_t k) const {

@@ -94,7 +94,10 @@ class Parser {
   // The current token, passed (Eof stays current).
   const Token& advance() {
     const Token& t = *cur_;
-    if (t.tok != T_Eof) cur_ = &toks_.next(++pos_, cur_);
+    if (t.tok != T_Eof) {
+      last_ = cur_;
+      cur_ = &toks_.next(++pos_, cur_);
+    }
     return t;
   }
   bool accept(int tok);
@@ -108,7 +111,7 @@ class Parser {
   // Recovery at file level: to the start of the next external declaration.
   void recover_external();
   // The last token consumed (the first token when none was).
-  const Token& last() const { return toks_[pos_ == 0 ? 0 : pos_ - 1]; }
+  const Token& last() const { return *last_; }
 
   // ---- core: nesting depth ----
   class DepthGuard {
@@ -193,7 +196,8 @@ class Parser {
 
   const TokenList& toks_;
   std::size_t pos_ = 0;
-  const Token* cur_;  // token pos_
+  const Token* cur_;   // token pos_
+  const Token* last_;  // token pos_ - 1, or token 0 at the start
   Actions& act_;
   SyntaxErrors& syntax_;
   int depth_ = 0;
