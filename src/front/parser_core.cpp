@@ -30,14 +30,7 @@ const Token& Parser::peek(std::size_t k) const {
   return toks_.contains(i) ? toks_[i] : toks_.back();
 }
 
-bool Parser::accept(int tok) {
-  if (!at(tok)) return false;
-  advance();
-  return true;
-}
-
-bool Parser::expect(int tok, const TokSet& follow) {
-  if (accept(tok)) return true;
+bool Parser::expect_failed(const TokSet& follow) {
   syntax_error(follow);
   return false;
 }

@@ -100,9 +100,14 @@ class Parser {
     }
     return t;
   }
-  bool accept(int tok);
+  bool accept(int tok) {
+    if (!at(tok)) return false;
+    advance();
+    return true;
+  }
   // Consumes `tok` or reports a syntax error and recovers to `follow`.
-  bool expect(int tok, const TokSet& follow);
+  bool expect(int tok, const TokSet& follow) { return accept(tok) || expect_failed(follow); }
+  bool expect_failed(const TokSet& follow);
 
   // ---- core: syntax errors and recovery ----
   void syntax_error(const TokSet& follow);
