@@ -744,25 +744,39 @@ TextFacts text_facts(std::string_view text) {
   const __m128i del = _mm_set1_epi8(0x7f);
   const __m128i underscore = _mm_set1_epi8('_');
   const __m128i o = _mm_set1_epi8('o');
-  for (; i + 16 <= n; i += 16) {
-    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
-    __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i + 1));
+  auto odd_bytes = [&](__m128i x) {
     // Signed, bytes from 128 are below the space.
     __m128i control = _mm_andnot_si128(_mm_or_si128(_mm_cmpeq_epi8(x, newline), _mm_cmpeq_epi8(x, tab)),
                                        _mm_cmplt_epi8(x, space));
-    __m128i odd = _mm_or_si128(control, _mm_cmpeq_epi8(x, del));
-    __m128i pair = _mm_and_si128(_mm_cmpeq_epi8(x, underscore), _mm_cmpeq_epi8(next, o));
-    unsigned report_mask = static_cast<unsigned>(_mm_movemask_epi8(odd));
-    unsigned pair_mask = facts.extern_pragmas ? 0 : static_cast<unsigned>(_mm_movemask_epi8(pair));
-    if ((report_mask | pair_mask) == 0) [[likely]]
-      continue;
-    if (report_mask != 0) facts.may_report = true;
-    for (; pair_mask != 0; pair_mask &= pair_mask - 1) {
-      size_t at = i + static_cast<size_t>(std::countr_zero(pair_mask));
-      if (at >= 6 && text.substr(at - 6, word.size()) == word) facts.extern_pragmas = true;
+    return _mm_or_si128(control, _mm_cmpeq_epi8(x, del));
+  };
+  auto pairs = [&](size_t at) {
+    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at));
+    __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at + 1));
+    return _mm_and_si128(_mm_cmpeq_epi8(x, underscore), _mm_cmpeq_epi8(next, o));
+  };
+  // What the block of sixteen at `at` adds to the facts.
+  auto settle = [&](size_t at) {
+    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at));
+    if (_mm_movemask_epi8(odd_bytes(x)) != 0) facts.may_report = true;
+    for (unsigned m = static_cast<unsigned>(_mm_movemask_epi8(pairs(at))); m != 0; m &= m - 1) {
+      size_t u = at + static_cast<size_t>(std::countr_zero(m));
+      if (u >= 6 && text.substr(u - 6, word.size()) == word) facts.extern_pragmas = true;
     }
+  };
+  // Thirty-two bytes a step while nothing is found.
+  for (; i + 32 <= n; i += 32) {
+    __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
+    __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i + 16));
+    __m128i any = _mm_or_si128(_mm_or_si128(odd_bytes(low), odd_bytes(high)),
+                               _mm_or_si128(pairs(i), pairs(i + 16)));
+    if (_mm_movemask_epi8(any) == 0) [[likely]]
+      continue;
+    settle(i);
+    settle(i + 16);
     if (facts.may_report && facts.extern_pragmas) return facts;
   }
+  for (; i + 16 <= n; i += 16) settle(i);
 #endif
   for (size_t j = i; j < n && !facts.may_report; ++j) facts.may_report = reportable_bytes[static_cast<unsigned char>(d[j])];
   // The word may begin in the bytes already passed.
