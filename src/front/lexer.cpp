@@ -8,12 +8,15 @@
 
 #include <algorithm>
 #include <array>
-
+#include <bit>
 #include <climits>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <new>
-#include <unordered_map>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "common/text.h"
 
@@ -56,10 +59,9 @@ bool is_hex_digit(char c) {
 }
 constexpr bool is_garbage(char c) { return c == '#' || c == '$' || c == '@' || c == '\\' || c == '`'; }
 
-// Keywords and punctuators, both taken from the token table, sorted for
-// lookups that hash nothing and call nothing: keywords by first letter and
-// length (every keyword begins with a lower-case letter and is short),
-// punctuators by their first character, longest first.
+// Keywords and punctuators, both taken from the token table. Keywords are
+// found by a hash that no two of them share (checked below), punctuators by
+// tables over their first two characters.
 struct Spelling {
   std::string_view text;
   int number;
@@ -82,62 +84,129 @@ constexpr size_t longest_keyword = [] {
 #undef TOKEN
   return longest;
 }();
+// Keywords are compared as two words of eight bytes.
+static_assert(longest_keyword <= 16);
+
+// Reads the second byte of a word of one byte, which the text's padding allows.
+constexpr size_t keyword_hash(const char* w, size_t n) {
+  auto b = [](char c) { return static_cast<size_t>(static_cast<unsigned char>(c)); };
+  return ((b(w[0]) << 3) + b(w[1]) + (b(w[n - 1]) << 5) + n) & 127;
+}
+
+constexpr bool keyword_hash_is_perfect = [] {
+  std::array<bool, 128> used{};
+#define TOKEN(number, name, spelling)                                                \
+  if (!std::string_view(spelling).empty() && is_ident_start(spelling[0])) {        \
+    size_t h = keyword_hash(spelling, std::string_view(spelling).size());           \
+    if (used[h]) return false;                                                      \
+    used[h] = true;                                                                 \
+  }
+#include "front/tokens.def"
+#undef TOKEN
+  return true;
+}();
+static_assert(keyword_hash_is_perfect, "two keywords share a hash: change keyword_hash");
+
+struct PunctuatorTables {
+  std::array<std::uint8_t, 128> one{};
+  // By the first character and the second byte, which may be any.
+  std::array<std::array<std::uint8_t, 256>, 128> two{};
+  std::array<bool, 128> longer{};     // a punctuator of two or three characters begins with it
+  std::array<bool, 128> has_three{};  // one of three characters begins with it
+  // The one punctuator of three characters by its first: its other two and number.
+  std::array<std::array<std::uint8_t, 3>, 128> three{};
+  bool three_unique = true;
+};
+constexpr PunctuatorTables punctuator_tables = [] {
+  PunctuatorTables t;
+  auto at = [](std::string_view s, size_t k) { return static_cast<size_t>(static_cast<unsigned char>(s[k]) & 127); };
+#define TOKEN(number, name, spelling)                                                \
+  if (std::string_view s = spelling; !s.empty() && !is_ident_start(s[0])) {         \
+    if (s.size() == 1) t.one[at(s, 0)] = number;                                    \
+    if (s.size() == 2) t.two[at(s, 0)][at(s, 1)] = number;                          \
+    if (s.size() == 3) {                                                            \
+      if (t.has_three[at(s, 0)]) t.three_unique = false;                            \
+      t.has_three[at(s, 0)] = true;                                                 \
+      t.three[at(s, 0)] = {static_cast<std::uint8_t>(s[1]), static_cast<std::uint8_t>(s[2]), number}; \
+    }                                                                               \
+    if (s.size() > 1) t.longer[at(s, 0)] = true;                                    \
+  }
+#include "front/tokens.def"
+#undef TOKEN
+  return t;
+}();
+static_assert(punctuator_tables.three_unique, "two punctuators of three characters share the first");
 
 struct Spellings {
-  // Punctuators are at most three characters: one- and two-character ones
-  // are found by table, the few of three by a short list.
   struct Punctuator {
     int number = 0;
     int length = 0;
   };
-  int one[128] = {};
-  int two[128][128] = {};
-  std::vector<Spelling> three[128];
-  bool has_three[128] = {};
-  std::vector<Spelling> keywords[26][longest_keyword + 1];
+  // A keyword by its hash, as two words of eight bytes with zeros after it.
+  struct Keyword {
+    std::uint64_t low = 0, high = 0;
+    std::uint32_t length = 0;
+    int number = T_IDENTIFIER;
+    std::string_view text;
+  };
+  std::array<Keyword, 128> keywords{};
   Spellings() {
 #define TOKEN(number, name, spelling)                                                   \
-  if (std::string_view(spelling).empty()) {                                            \
-  } else if (is_ident_start(spelling[0])) {                                            \
-    keywords[spelling[0] - 'a'][std::string_view(spelling).size()].push_back({spelling, number}); \
-  } else {                                                                             \
-    add_punctuator({spelling, number});                                                \
+  if (std::string_view s = spelling; s.empty()) {                                      \
+  } else if (is_ident_start(s[0])) {                                                   \
+    add_keyword({s, number});                                                          \
   }
 #include "front/tokens.def"
 #undef TOKEN
   }
-  void add_punctuator(Spelling p) {
-    auto at = [&](size_t k) { return static_cast<unsigned char>(p.text[k]) & 127; };
-    if (p.text.size() == 1) one[at(0)] = p.number;
-    else if (p.text.size() == 2) two[at(0)][at(1)] = p.number;
-    else {
-      three[at(0)].push_back(p);
-      has_three[at(0)] = true;
-    }
+  void add_keyword(Spelling k) {
+    char padded[16] = {};
+    std::memcpy(padded, k.text.data(), k.text.size());
+    Keyword& slot = keywords[keyword_hash(k.text.data(), k.text.size())];
+    std::memcpy(&slot.low, padded, 8);
+    std::memcpy(&slot.high, padded + 8, 8);
+    slot.length = static_cast<std::uint32_t>(k.text.size());
+    slot.number = k.number;
+    slot.text = k.text;
   }
-  int keyword(std::string_view word) const {
-    if (word[0] < 'a' || word[0] > 'z' || word.size() > longest_keyword) return T_IDENTIFIER;
-    for (const Spelling& k : keywords[word[0] - 'a'][word.size()])
-      if (same_text(k.text.data(), word.data(), word.size())) return k.number;
-    return T_IDENTIFIER;
-  }
-  // The longest punctuator at `at`, whose text runs on to `end`; a length
-  // of 0 for none.
-  Punctuator punctuator(const char* at, const char* end) const {
-    unsigned char c = static_cast<unsigned char>(at[0]);
-    if (c >= 128) return {};
-    size_t room = static_cast<size_t>(end - at);
-    unsigned char c1 = room > 1 ? static_cast<unsigned char>(at[1]) : 0;
-    if (c1 < 128) {
-      if (has_three[c])
-        for (const Spelling& p : three[c])
-          if (room >= 3 && same_text(p.text.data(), at, 3)) return {p.number, 3};
-      if (int t = two[c][c1]) return {t, 2};
+  // The word's token number. Reads up to sixteen bytes from its start, so
+  // the text must be padded.
+  int keyword(const char* w, size_t n) const {
+    if (n > longest_keyword || n < 2) return T_IDENTIFIER;
+    const Keyword& k = keywords[keyword_hash(w, n)];
+    if (k.length != n) return T_IDENTIFIER;
+    if constexpr (std::endian::native == std::endian::little) {
+      std::uint64_t low, high;
+      std::memcpy(&low, w, 8);
+      std::memcpy(&high, w + 8, 8);
+      // Bytes past the word are masked off.
+      if (n < 8) {
+        low &= (std::uint64_t{1} << (8 * n)) - 1;
+        high = 0;
+      } else {
+        high &= n == 16 ? ~std::uint64_t{0} : (std::uint64_t{1} << (8 * (n - 8))) - 1;
+      }
+      return low == k.low && high == k.high ? k.number : T_IDENTIFIER;
+    } else {
+      return same_text(k.text.data(), w, n) ? k.number : T_IDENTIFIER;
     }
-    if (int t = one[c]) return {t, 1};
-    return {};
   }
 };
+
+// The longest punctuator at `at`, a length of 0 for none. Reads two bytes
+// past `at`, which the NUL and the padding after the text allow: neither
+// is part of a punctuator.
+inline Spellings::Punctuator punctuator(const char* at) {
+  const PunctuatorTables& t = punctuator_tables;
+  unsigned char c = static_cast<unsigned char>(at[0]);
+  if (c >= 128) return {};
+  unsigned char c1 = static_cast<unsigned char>(at[1]);
+  if (t.has_three[c] && c1 == t.three[c][0] && static_cast<unsigned char>(at[2]) == t.three[c][1])
+    return {t.three[c][2], 3};
+  if (int n = t.two[c][c1]) return {n, 2};
+  if (int n = t.one[c]) return {n, 1};
+  return {};
+}
 
 const Spellings& spellings() {
   static const Spellings s;
@@ -151,9 +220,11 @@ constexpr std::array<bool, 256> ident_bytes = [] {
 }();
 inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c)]; }
 
-// What a byte can begin in normal mode; `other` covers slashes, points and
-// punctuators, which look further.
-enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage };
+// What a byte can begin in normal mode: `single` is a punctuator that no
+// longer one begins with, `pair` one that only longer ones of two
+// characters begin with; `other` covers slashes, points, the other
+// punctuators and the NUL that ends the text, which look further.
+enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage, single, pair };
 constexpr std::array<ByteClass, 256> byte_classes = [] {
   std::array<ByteClass, 256> t{};
   for (int i = 0; i < 256; ++i) {
@@ -165,15 +236,65 @@ constexpr std::array<ByteClass, 256> byte_classes = [] {
     else if (is_digit(c)) k = ByteClass::digit;
     else if (c == '"' || c == '\'') k = ByteClass::quote;
     else if (is_garbage(c)) k = ByteClass::garbage;
+    else if (i < 128 && punctuator_tables.one[static_cast<size_t>(i)] != 0 && !punctuator_tables.longer[static_cast<size_t>(i)])
+      k = ByteClass::single;
+    else if (i < 128 && c != '/' && punctuator_tables.one[static_cast<size_t>(i)] != 0 &&
+             !punctuator_tables.has_three[static_cast<size_t>(i)])
+      k = ByteClass::pair;
     t[static_cast<size_t>(i)] = k;
   }
   return t;
 }();
 inline ByteClass byte_class(char c) { return byte_classes[static_cast<unsigned char>(c)]; }
 
+// Bytes that begin no token, which the lexer reports outside constants.
+constexpr std::array<bool, 256> reportable_bytes = [] {
+  std::array<bool, 256> t{};
+  for (int i = 0; i < 256; ++i)
+    t[static_cast<size_t>(i)] = byte_classes[static_cast<size_t>(i)] == ByteClass::other &&
+                                (i >= 128 || punctuator_tables.one[static_cast<size_t>(i)] == 0);
+  return t;
+}();
+// The vector test below spells the same set out: control bytes but newline
+// and tab, DEL, and every byte from 128.
+constexpr bool reportable_by_range(int i) {
+  return (i < 0x20 && i != '\n' && i != '\t') || i >= 0x7f;
+}
+static_assert([] {
+  for (int i = 0; i < 256; ++i)
+    if (reportable_bytes[static_cast<size_t>(i)] != reportable_by_range(i)) return false;
+  return true;
+}());
+
+// Bytes a text is padded with past its NUL, so that blanks, words and
+// keywords can be read eight or sixteen bytes at a time.
+constexpr size_t text_padding = 32;
+
+// The first byte at `p` that is no blank; the text's NUL stops the run.
+inline const char* skip_blanks(const char* p) {
+  if constexpr (std::endian::native == std::endian::little) {
+    for (;;) {
+      std::uint64_t w;
+      std::memcpy(&w, p, 8);
+      std::uint64_t x = w ^ 0x2020202020202020u;
+      if (x == 0) {
+        p += 8;
+        continue;
+      }
+      p += std::countr_zero(x) >> 3;
+      if (*p != '\t') return p;
+      ++p;
+    }
+  } else {
+    while (*p == ' ' || *p == '\t') ++p;
+    return p;
+  }
+}
+
 class Lexer final : public TokenSource {
  public:
-  // Every token's text is a view into `text`, which ends in a NUL. Tokens go
+  // Every token's text is a view into `text`, which ends in a NUL and then
+  // `text_padding` more bytes (take_text sees to both). Tokens go
   // to `store`, extern ranges to `ranges`; `err` takes the reports.
   Lexer(std::string_view text, TokenStore& store, ExternRanges& ranges, FileTable& files, std::ostream& err)
       : s_(text), files_(files), err_(err), store_(store), extern_(ranges) {
@@ -208,7 +329,9 @@ class Lexer final : public TokenSource {
   void emit(int tok, size_t begin, size_t end) { emit(tok, s_.substr(begin, end - begin)); }
   inline void emit(int tok, std::string_view text);
 
-  void normal_step();
+  // Normal mode until the text ends, the mode changes or a token beyond
+  // `want` is made.
+  void normal_run(std::size_t want);
   void line_directive_step();
   void newline_in_normal();
   void line_start();
@@ -390,70 +513,178 @@ void Lexer::line_directive_step() {
   }
 }
 
-void Lexer::normal_step() {
-  const char* d = s_.data();
-  // Blanks between tokens, the commonest bytes, are passed without a dispatch;
-  // the text ends in a NUL that stops the run. The scans run on locals, which
-  // the stores of tokens cannot alias.
-  size_t begin = pos_;
-  while (d[begin] == ' ' || d[begin] == '\t') ++begin;
-  pos_ = begin;
-  if (begin >= s_.size()) return;
-  char c = d[begin];
-  switch (byte_class(c)) {
-    case ByteClass::newline:
-      newline_in_normal();
-      return;
-    case ByteClass::blank:  // passed above
-      return;
-    case ByteClass::ident: {
-      size_t end = begin + 1;
-      while (ident_byte(d[end])) ++end;
-      pos_ = end;
-      std::string_view word(d + begin, end - begin);
-      emit(spellings_.keyword(word), word);
-      return;
-    }
-    case ByteClass::digit: {
-      int tok;
-      pos_ = number_end(pos_, tok);
-      emit(tok, begin, pos_);
-      return;
-    }
-    case ByteClass::quote:
-      // An unclosed constant ends before its newline, which normal mode counts.
-      pos_ = quoted_end(pos_, c);
-      emit(c == '"' ? T_STRING : T_CHARACTER, begin, pos_);
-      return;
-    case ByteClass::garbage:
-      while (is_garbage(at(pos_))) ++pos_;
-      emit(T_GARBAGE, begin, pos_);
-      return;
-    case ByteClass::other:
-      break;
+void Lexer::normal_run(std::size_t want) {
+  // The scan runs on locals, which the stores of tokens cannot alias; they
+  // go back to the members before any helper runs and when the run ends.
+  const char* const d = s_.data();
+  const char* const end = d + s_.size();
+  const char* p = d + pos_;
+  std::int64_t line = line_;
+  int code = line_code_;
+  // The block being filled: its first token's index, and its free places
+  // (none when a new one is due).
+  constexpr std::size_t in_block = TokenStore::block_size - 1;
+  std::size_t base = store_.count & ~in_block;
+  Token* block = nullptr;
+  Token* slot = nullptr;
+  Token* slot_end = nullptr;
+  if ((store_.count & in_block) != 0) {
+    block = store_.blocks.back().get();
+    slot = block + (store_.count & in_block);
+    slot_end = block + TokenStore::block_size;
   }
-  if (c == '/' && at(pos_ + 1) == '*') {
-    // Comments do not nest; an unclosed one runs to the end of the file.
-    size_t close = s_.find("*/", pos_ + 2);
-    size_t end = close == std::string_view::npos ? s_.size() : close + 2;
-    for (size_t j = pos_ + 2; j < end; ++j)
-      if (s_[j] == '\n') next_line();
-    pos_ = end;
-  } else if (c == '/' && at(pos_ + 1) == '/') {
-    // The newline stays for normal mode, which counts it.
-    pos_ = rest_of_line(pos_);
-  } else if (c == '.' && is_digit(at(pos_ + 1))) {
-    int tok;
-    pos_ = number_end(pos_, tok);
-    emit(tok, begin, pos_);
-  } else if (Spellings::Punctuator p = spellings_.punctuator(d + pos_, d + s_.size()); p.length > 0) {
-    // The longest punctuator that matches wins.
-    pos_ += static_cast<size_t>(p.length);
-    emit(p.number, begin, pos_);
-  } else {
+  auto save = [&] {
+    pos_ = static_cast<size_t>(p - d);
+    line_ = line;
+    line_code_ = code;
+    if (block) store_.count = base + static_cast<std::size_t>(slot - block);
+  };
+  auto load = [&] {
+    p = d + pos_;
+    line = line_;
+    code = line_code_;
+  };
+  auto next_line = [&] {
+    if (line < INT_MAX) {
+      ++line;
+      code = static_cast<int>(std::clamp<std::int64_t>(line, INT_MIN, INT_MAX));
+    }
+  };
+  // Appends the token from `begin` to p; false when the run is to stop
+  // before it. Requests are met a block at a time: the run stops at the
+  // first full block once it has made a token beyond `want`.
+  auto put = [&](int tok, const char* begin) {
+    std::string_view text(begin, static_cast<size_t>(p - begin));
+    if (slot == slot_end) [[unlikely]] {
+      save();
+      if (store_.count > want) {
+        p = begin;
+        save();
+        return false;
+      }
+      emit(tok, text);  // takes a new block
+      base = store_.count - 1;
+      block = store_.blocks.back().get();
+      slot = block + 1;
+      slot_end = block + TokenStore::block_size;
+      return true;
+    }
+    *slot++ = Token(text, tok, code);
+    return true;
+  };
+
+  for (;;) {
+    const char* begin = p;
+    char c = *p;
+    // Most tokens are followed by one blank: passed without a dispatch.
+    if (c == ' ') {
+      c = *++p;
+      if (c == ' ' || c == '\t') {
+        p = skip_blanks(p);
+        c = *p;
+      }
+      begin = p;
+    }
+    switch (byte_class(c)) {
+      case ByteClass::blank:
+        p = skip_blanks(p + 1);
+        continue;
+      case ByteClass::newline:
+        if (p[1] != '#') {
+          next_line();
+          ++p;
+          continue;
+        }
+        save();
+        newline_in_normal();
+        if (mode_ != Mode::normal) return;
+        load();
+        continue;
+      case ByteClass::ident: {
+        ++p;
+        while (ident_byte(*p)) ++p;
+        if (!put(spellings_.keyword(begin, static_cast<size_t>(p - begin)), begin)) return;
+        continue;
+      }
+      case ByteClass::single:
+        ++p;
+        if (!put(punctuator_tables.one[static_cast<unsigned char>(c)], begin)) return;
+        continue;
+      case ByteClass::pair: {
+        int tok = punctuator_tables.two[static_cast<unsigned char>(c)][static_cast<unsigned char>(p[1])];
+        if (tok != 0) {
+          p += 2;
+        } else {
+          tok = punctuator_tables.one[static_cast<unsigned char>(c)];
+          ++p;
+        }
+        if (!put(tok, begin)) return;
+        continue;
+      }
+      case ByteClass::digit: {
+        // A run of digits that nothing extends is the commonest number.
+        const char* q = p + 1;
+        while (is_digit(*q)) ++q;
+        int tok = T_DECIMALINT;
+        switch (*q) {
+          case '.': case 'e': case 'E': case 'x': case 'X': case 'U': case 'L':
+            q = d + number_end(static_cast<size_t>(p - d), tok);
+            break;
+          default:
+            break;
+        }
+        p = q;
+        if (!put(tok, begin)) return;
+        continue;
+      }
+      case ByteClass::quote:
+        // An unclosed constant ends before its newline, which normal mode counts.
+        p = d + quoted_end(static_cast<size_t>(p - d), c);
+        if (!put(c == '"' ? T_STRING : T_CHARACTER, begin)) return;
+        continue;
+      case ByteClass::garbage:
+        while (is_garbage(*p)) ++p;
+        if (!put(T_GARBAGE, begin)) return;
+        continue;
+      case ByteClass::other:
+        break;
+      default:
+        __builtin_unreachable();
+    }
+    if (p == end) {
+      save();
+      return;
+    }
+    if (c == '/' && p[1] == '*') {
+      // Comments do not nest; an unclosed one runs to the end of the file.
+      size_t close = s_.find("*/", static_cast<size_t>(p - d) + 2);
+      const char* after = close == std::string_view::npos ? end : d + close + 2;
+      for (const char* j = p + 2; j < after; ++j)
+        if (*j == '\n') next_line();
+      p = after;
+      continue;
+    }
+    if (c == '/' && p[1] == '/') {
+      // The newline stays for normal mode, which counts it.
+      const void* nl = std::memchr(p, '\n', static_cast<size_t>(end - p));
+      p = nl ? static_cast<const char*>(nl) : end;
+      continue;
+    }
+    if (c == '.' && is_digit(p[1])) {
+      int tok;
+      p = d + number_end(static_cast<size_t>(p - d), tok);
+      if (!put(tok, begin)) return;
+      continue;
+    }
+    if (Spellings::Punctuator pu = punctuator(p); pu.length > 0) {
+      // The longest punctuator that matches wins.
+      p += pu.length;
+      if (!put(pu.number, begin)) return;
+      continue;
+    }
     // Not counted as an error; the raw line code is shown.
-    err_ << strf("%s near line %d (text was '%c')\n", "invalid token", line_code(), c);
-    ++pos_;
+    err_ << strf("%s near line %d (text was '%c')\n", "invalid token", code, c);
+    ++p;
   }
 }
 
@@ -461,7 +692,7 @@ void Lexer::produce(std::size_t index) {
   const std::size_t want = index < SIZE_MAX - ahead ? index + ahead : SIZE_MAX;
   while (pos_ < s_.size() && store_.count <= want) {
     if (mode_ == Mode::normal)
-      normal_step();
+      normal_run(want);
     else
       line_directive_step();
   }
@@ -474,39 +705,83 @@ void Lexer::produce(std::size_t index) {
 
 // Takes the text over, in a block of its own (never a string's inner
 // buffer, which moves with the string) that ends in the string's NUL, which
-// stops every scan.
+// stops every scan, and then `text_padding` zero bytes.
 void take_text(TokenBuffer& b, std::string text) {
+  const size_t size = text.size();
   try {
     b.text_store = std::move(text);
-    b.text_store.reserve(std::max<size_t>(b.text_store.size(), 16));
+    b.text_store.reserve(size + text_padding);
+    b.text_store.append(text_padding, '\0');
+    b.text_store.resize(size);
   } catch (const std::bad_alloc&) {
     throw TokenBufferFailure{strf("cannot allocate lookahead text buffer (%d bytes)\n",
-                                  static_cast<int>(std::min<size_t>(b.text_store.size() + 1, INT_MAX)))};
+                                  static_cast<int>(std::min<size_t>(size + 1, INT_MAX)))};
   }
-  b.extern_pragmas = b.text_store.find("extern_o") != std::string::npos;
 }
 
-// Whether the lexer could report something in the text: a byte that begins
-// no token. Such a byte inside a constant reports nothing, but a look at
-// bytes alone cannot tell.
-bool may_report(std::string_view text) {
-  static const std::array<bool, 256> reportable = [] {
-    std::array<bool, 256> t{};
-    for (int i = 0; i < 256; ++i) {
-      char c = static_cast<char>(i);
-      t[static_cast<size_t>(i)] = byte_class(c) == ByteClass::other && spellings().punctuator(&c, &c + 1).length == 0;
+// What one look over a text finds: whether the lexer could report something
+// (a byte that begins no token; inside a constant it reports nothing, but a
+// look at bytes alone cannot tell), and whether the text holds an extern
+// pragma's word.
+struct TextFacts {
+  bool may_report = false;
+  bool extern_pragmas = false;
+};
+
+// `text` ends in a NUL.
+TextFacts text_facts(std::string_view text) {
+  static constexpr std::string_view word = "extern_o";
+  const char* d = text.data();
+  const size_t n = text.size();
+  TextFacts facts;
+  size_t i = 0;
+#if defined(__SSE2__)
+  // Sixteen bytes a step, the pair "_o" marking where the word may end;
+  // the second load reaches the NUL at most.
+  const __m128i space = _mm_set1_epi8(' ');
+  const __m128i newline = _mm_set1_epi8('\n');
+  const __m128i tab = _mm_set1_epi8('\t');
+  const __m128i del = _mm_set1_epi8(0x7f);
+  const __m128i underscore = _mm_set1_epi8('_');
+  const __m128i o = _mm_set1_epi8('o');
+  auto odd_bytes = [&](__m128i x) {
+    // Signed, bytes from 128 are below the space.
+    __m128i control = _mm_andnot_si128(_mm_or_si128(_mm_cmpeq_epi8(x, newline), _mm_cmpeq_epi8(x, tab)),
+                                       _mm_cmplt_epi8(x, space));
+    return _mm_or_si128(control, _mm_cmpeq_epi8(x, del));
+  };
+  auto pairs = [&](size_t at) {
+    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at));
+    __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at + 1));
+    return _mm_and_si128(_mm_cmpeq_epi8(x, underscore), _mm_cmpeq_epi8(next, o));
+  };
+  // What the block of sixteen at `at` adds to the facts.
+  auto settle = [&](size_t at) {
+    __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + at));
+    if (_mm_movemask_epi8(odd_bytes(x)) != 0) facts.may_report = true;
+    for (unsigned m = static_cast<unsigned>(_mm_movemask_epi8(pairs(at))); m != 0; m &= m - 1) {
+      size_t u = at + static_cast<size_t>(std::countr_zero(m));
+      if (u >= 6 && text.substr(u - 6, word.size()) == word) facts.extern_pragmas = true;
     }
-    return t;
-  }();
-  // Eight bytes a step: the test is one table read per byte and no branch.
-  const auto* d = reinterpret_cast<const unsigned char*>(text.data());
-  size_t i = 0, n = text.size();
-  bool any = false;
-  for (; i + 8 <= n && !any; i += 8)
-    any = reportable[d[i]] | reportable[d[i + 1]] | reportable[d[i + 2]] | reportable[d[i + 3]] |
-          reportable[d[i + 4]] | reportable[d[i + 5]] | reportable[d[i + 6]] | reportable[d[i + 7]];
-  for (; i < n; ++i) any |= reportable[d[i]];
-  return any;
+  };
+  // Thirty-two bytes a step while nothing is found.
+  for (; i + 32 <= n; i += 32) {
+    __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i));
+    __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(d + i + 16));
+    __m128i any = _mm_or_si128(_mm_or_si128(odd_bytes(low), odd_bytes(high)),
+                               _mm_or_si128(pairs(i), pairs(i + 16)));
+    if (_mm_movemask_epi8(any) == 0) [[likely]]
+      continue;
+    settle(i);
+    settle(i + 16);
+    if (facts.may_report && facts.extern_pragmas) return facts;
+  }
+  for (; i + 16 <= n; i += 16) settle(i);
+#endif
+  for (size_t j = i; j < n && !facts.may_report; ++j) facts.may_report = reportable_bytes[static_cast<unsigned char>(d[j])];
+  // The word may begin in the bytes already passed.
+  if (!facts.extern_pragmas) facts.extern_pragmas = text.find(word, i >= 7 ? i - 7 : 0) != std::string_view::npos;
+  return facts;
 }
 
 }  // namespace
@@ -514,6 +789,7 @@ bool may_report(std::string_view text) {
 TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err) {
   TokenBuffer b;
   take_text(b, std::move(text));
+  b.extern_pragmas = text_facts(b.text_store).extern_pragmas;
   Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
   lexer.produce(SIZE_MAX);
   b.tokens.set_source(nullptr);
@@ -521,9 +797,16 @@ TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err) {
 }
 
 TokenBuffer tokenize_as_read(std::string text, FileTable& files, std::ostream& err) {
-  if (may_report(text)) return tokenize(std::move(text), files, err);
   TokenBuffer b;
   take_text(b, std::move(text));
+  TextFacts facts = text_facts(b.text_store);
+  b.extern_pragmas = facts.extern_pragmas;
+  if (facts.may_report) {
+    Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
+    lexer.produce(SIZE_MAX);
+    b.tokens.set_source(nullptr);
+    return b;
+  }
   b.tokens.set_source(std::make_unique<Lexer>(b.text_store, b.tokens.store(), *b.extern_ranges, files, err));
   return b;
 }

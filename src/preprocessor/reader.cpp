@@ -16,11 +16,6 @@ size_t Reader::splice_len(size_t i) const {
   return 0;
 }
 
-void Reader::newline() {
-  line_ += 1 + pending_;
-  pending_ = 0;
-}
-
 int Reader::last_line() const {
   int n = 1;
   for (char c : t_)

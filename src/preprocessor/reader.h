@@ -4,6 +4,9 @@
 #pragma once
 
 #include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -24,7 +27,9 @@ struct Token {
 
 class Reader {
  public:
-  // `report(line, text)` receives the reader's messages.
+  // `report(line, text)` receives the reader's messages. The byte after
+  // `text` must be readable and a NUL (a string's or a literal's), which
+  // stops plain runs without a test of the position.
   using Report = std::function<void(int, const std::string&)>;
 
   Reader(std::string_view text, Report report) : t_(text), report_(std::move(report)) {}
@@ -65,7 +70,11 @@ class Reader {
  private:
   bool splice_at(size_t i) const;
   size_t splice_len(size_t i) const;
-  void newline();
+  // Inline: plain runs pass most line ends.
+  void newline() {
+    line_ += 1 + pending_;
+    pending_ = 0;
+  }
   // Reports once per position: look-ahead may read the same comment twice.
   void report_at(size_t pos, int line, const std::string& text);
   void skip_block_comment(int& blanks, int& newlines);
@@ -105,33 +114,70 @@ inline constexpr std::array<PlainByte, 256> plain_bytes = [] {
   return t;
 }();
 
+// Bytes of names and numbers, looked up rather than compared.
+inline constexpr std::array<bool, 256> word_bytes = [] {
+  std::array<bool, 256> t{};
+  for (int i = 0; i < 256; ++i) t[static_cast<size_t>(i)] = is_ident_char(static_cast<char>(i));
+  return t;
+}();
+
+// The first byte from `p` on (before `e`) that is no space.
+inline const char* skip_spaces(const char* p, const char* e) {
+  if constexpr (std::endian::native == std::endian::little) {
+    // Indentation is long: eight bytes at a time while they lie before `e`.
+    while (e - p >= 8) {
+      std::uint64_t w;
+      std::memcpy(&w, p, 8);
+      std::uint64_t x = w ^ 0x2020202020202020u;
+      if (x != 0) return p + (std::countr_zero(x) >> 3);
+      p += 8;
+    }
+  }
+  while (p < e && *p == ' ') ++p;
+  return p;
+}
+
 template <class MayBeMacro>
 std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
-  size_t p = pos_, last = pos_, n = t_.size();
-  while (p < n) {
-    size_t q = p + 1;
-    switch (plain_bytes[static_cast<unsigned char>(t_[p])]) {
+  // The NUL after the text is a stop byte: only the stop case looks at the end.
+  const char* const s = t_.data();
+  const char* const e = s + t_.size();
+  const char* p = s + pos_;
+  const char* last = p;   // end of the run so far
+  const char* token = p;  // where the run's last token begins
+  for (;;) {
+    // Most tokens are followed by one space: passed without a dispatch.
+    if (*p == ' ') {
+      if (*++p == ' ') p = skip_spaces(p, e);
+    }
+    const char* q = p + 1;
+    switch (plain_bytes[static_cast<unsigned char>(*p)]) {
       case PlainByte::blank:
-        // Indentation comes in runs.
-        while (++p < n && t_[p] == ' ') {
-        }
+        p = skip_spaces(q, e);
         continue;
       case PlainByte::ident:
-        while (q < n && is_ident_char(t_[q])) ++q;
-        if (may_be_macro(t_.substr(p, q - p))) goto done;
+        while (word_bytes[static_cast<unsigned char>(*q)]) ++q;
+        if (may_be_macro(std::string_view(p, static_cast<size_t>(q - p)))) goto done;
         break;
       case PlainByte::point:
-        if (!(p + 1 < n && is_digit(t_[p + 1]))) break;
+        if (!is_digit(*q)) break;
         [[fallthrough]];
       case PlainByte::digit:
-        q = skip_number(t_, p);
+        q = s + skip_number(t_, static_cast<size_t>(p - s));
         break;
       case PlainByte::slash:
-        if (p + 1 < n && (t_[p + 1] == '*' || t_[p + 1] == '/')) goto done;
+        if (*q == '*' || *q == '/') goto done;
         break;
       case PlainByte::punct:
         break;
       case PlainByte::stop:
+        if (p >= e) goto done;
+        // A word that a continuation extends is the reader's to join: the
+        // token right before a backslash leaves the run.
+        if (*p == '\\') {
+          if (p == last) last = token;
+          goto done;
+        }
         // A line end right after a token of the run, before a line that
         // begins with more plain text, goes with the run: ordinary code is
         // copied many lines at a time. These end the run instead: trailing
@@ -139,26 +185,24 @@ std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
         // lengthened, whose end stands for several; a line end right after
         // the token before the run, which may be a literal that joins one on
         // the next line; lines that may begin a directive or a literal.
-        if (t_[p] == '\n' && p == last && last > pos_ && pending_ == 0) {
-          size_t r = p + 1;
-          while (r < n && t_[r] == ' ') ++r;
-          PlainByte k = r < n ? plain_bytes[static_cast<unsigned char>(t_[r])] : PlainByte::stop;
+        if (*p == '\n' && p == last && last > s + pos_ && pending_ == 0) {
+          const char* r = skip_spaces(q, e);
+          PlainByte k = r < e ? plain_bytes[static_cast<unsigned char>(*r)] : PlainByte::stop;
           if (k == PlainByte::ident || k == PlainByte::digit || k == PlainByte::point ||
-              (k == PlainByte::punct && t_[r] != '#')) {
+              (k == PlainByte::punct && *r != '#')) {
             newline();
-            p = last = r;
+            p = last = token = r;
             continue;
           }
         }
         goto done;
     }
-    // A word that a continuation extends is the reader's to join.
-    if (q < n && t_[q] == '\\') break;
+    token = p;
     p = last = q;
   }
 done:
-  std::string_view run = t_.substr(pos_, last - pos_);
-  pos_ = last;
+  std::string_view run(s + pos_, static_cast<size_t>(last - (s + pos_)));
+  pos_ = static_cast<size_t>(last - s);
   return run;
 }
 

@@ -2,6 +2,7 @@
 // expansion results), shared by the macro, directive and #if code.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -37,9 +38,15 @@ inline size_t skip_ident(std::string_view s, size_t pos) {
 // A number with its letters, digits, points and exponent signs, so that the
 // letters of 0x1F or 1e5 are never taken for names.
 inline size_t skip_number(std::string_view s, size_t pos) {
+  // Letters, digits and points, looked up rather than compared.
+  static constexpr std::array<bool, 256> number_bytes = [] {
+    std::array<bool, 256> t{};
+    for (int i = 0; i < 256; ++i) t[static_cast<size_t>(i)] = is_ident_char(static_cast<char>(i)) || i == '.';
+    return t;
+  }();
   while (pos < s.size()) {
     char c = s[pos];
-    if (is_ident_char(c) || c == '.') {
+    if (number_bytes[static_cast<unsigned char>(c)]) {
       ++pos;
     } else if ((c == '+' || c == '-') && (s[pos - 1] == 'e' || s[pos - 1] == 'E')) {
       ++pos;
