@@ -222,9 +222,10 @@ inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c
 
 // What a byte can begin in normal mode: `single` is a punctuator that no
 // longer one begins with, `pair` one that only longer ones of two
-// characters begin with; `other` covers slashes, points, the other
+// characters begin with, `triple` one that one of three characters begins
+// with; `other` covers slashes, points, the other
 // punctuators and the NUL that ends the text, which look further.
-enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage, single, pair };
+enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage, single, pair, triple };
 constexpr std::array<ByteClass, 256> byte_classes = [] {
   std::array<ByteClass, 256> t{};
   for (int i = 0; i < 256; ++i) {
@@ -241,6 +242,8 @@ constexpr std::array<ByteClass, 256> byte_classes = [] {
     else if (i < 128 && c != '/' && punctuator_tables.one[static_cast<size_t>(i)] != 0 &&
              !punctuator_tables.has_three[static_cast<size_t>(i)])
       k = ByteClass::pair;
+    else if (i < 128 && c != '/' && c != '.' && punctuator_tables.one[static_cast<size_t>(i)] != 0)
+      k = ByteClass::triple;
     t[static_cast<size_t>(i)] = k;
   }
   return t;
@@ -579,7 +582,7 @@ void Lexer::normal_run(std::size_t want) {
     // Most tokens are followed by one blank: passed without a dispatch.
     if (c == ' ') {
       c = *++p;
-      if (c == ' ' || c == '\t') {
+      if (c == ' ') {
         p = skip_blanks(p);
         c = *p;
       }
@@ -619,6 +622,12 @@ void Lexer::normal_run(std::size_t want) {
           ++p;
         }
         if (!put(tok, begin)) return;
+        continue;
+      }
+      case ByteClass::triple: {
+        Spellings::Punctuator pu = punctuator(p);
+        p += pu.length;
+        if (!put(pu.number, begin)) return;
         continue;
       }
       case ByteClass::digit: {
