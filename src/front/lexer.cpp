@@ -86,8 +86,19 @@ constexpr size_t longest_keyword = [] {
 }();
 // Keywords are compared as two words of eight bytes.
 static_assert(longest_keyword <= 16);
+// Shorter words are no keyword, and the hash reads two bytes.
+constexpr size_t shortest_keyword = [] {
+  size_t shortest = SIZE_MAX;
+#define TOKEN(number, name, spelling)                                                \
+  if (!std::string_view(spelling).empty() && is_ident_start(spelling[0]))           \
+    shortest = std::min(shortest, std::string_view(spelling).size());
+#include "front/tokens.def"
+#undef TOKEN
+  return shortest;
+}();
+static_assert(shortest_keyword >= 2);
 
-// Reads the second byte of a word of one byte, which the text's padding allows.
+// Of the first, second and last bytes and the length.
 constexpr size_t keyword_hash(const char* w, size_t n) {
   auto b = [](char c) { return static_cast<size_t>(static_cast<unsigned char>(c)); };
   return ((b(w[0]) << 3) + b(w[1]) + (b(w[n - 1]) << 5) + n) & 127;
@@ -172,7 +183,7 @@ struct Spellings {
   // The word's token number. Reads up to sixteen bytes from its start, so
   // the text must be padded.
   int keyword(const char* w, size_t n) const {
-    if (n > longest_keyword || n < 2) return T_IDENTIFIER;
+    if (n > longest_keyword || n < shortest_keyword) return T_IDENTIFIER;
     const Keyword& k = keywords[keyword_hash(w, n)];
     if (k.length != n) return T_IDENTIFIER;
     if constexpr (std::endian::native == std::endian::little) {
@@ -222,9 +233,10 @@ inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c
 
 // What a byte can begin in normal mode: `single` is a punctuator that no
 // longer one begins with, `pair` one that only longer ones of two
-// characters begin with; `other` covers slashes, points, the other
-// punctuators and the NUL that ends the text, which look further.
-enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage, single, pair };
+// characters begin with, `triple` one that one of three characters begins
+// with; `other` covers slashes, points, the other punctuators and the NUL
+// that ends the text, which look further.
+enum class ByteClass : unsigned char { other, newline, blank, ident, digit, quote, garbage, single, pair, triple };
 constexpr std::array<ByteClass, 256> byte_classes = [] {
   std::array<ByteClass, 256> t{};
   for (int i = 0; i < 256; ++i) {
@@ -241,6 +253,8 @@ constexpr std::array<ByteClass, 256> byte_classes = [] {
     else if (i < 128 && c != '/' && punctuator_tables.one[static_cast<size_t>(i)] != 0 &&
              !punctuator_tables.has_three[static_cast<size_t>(i)])
       k = ByteClass::pair;
+    else if (i < 128 && c != '/' && c != '.' && punctuator_tables.one[static_cast<size_t>(i)] != 0)
+      k = ByteClass::triple;
     t[static_cast<size_t>(i)] = k;
   }
   return t;
@@ -579,7 +593,7 @@ void Lexer::normal_run(std::size_t want) {
     // Most tokens are followed by one blank: passed without a dispatch.
     if (c == ' ') {
       c = *++p;
-      if (c == ' ' || c == '\t') {
+      if (c == ' ') {
         p = skip_blanks(p);
         c = *p;
       }
@@ -619,6 +633,12 @@ void Lexer::normal_run(std::size_t want) {
           ++p;
         }
         if (!put(tok, begin)) return;
+        continue;
+      }
+      case ByteClass::triple: {
+        Spellings::Punctuator pu = punctuator(p);
+        p += pu.length;
+        if (!put(pu.number, begin)) return;
         continue;
       }
       case ByteClass::digit: {
