@@ -668,8 +668,6 @@ void Lexer::normal_run(std::size_t want) {
         continue;
       case ByteClass::other:
         break;
-      default:
-        __builtin_unreachable();
     }
     if (p == end) {
       save();
