@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "front/lexer.h"
@@ -297,6 +298,32 @@ TEST(LexAsRead, SameTokensAcrossGivenBackBlocks) {
   EXPECT_LE(live, 3u);
   EXPECT_LE(live + store.spare.size(), 4u);
   EXPECT_EQ(err.str(), "");
+}
+
+// The parser's ways through the list: from one token to the next by address,
+// and whole runs of a block at a time, reach the very tokens that indexing
+// does, across the blocks' edges and up to Eof.
+TEST(LexAsRead, NextAndRunsReachTheIndexedTokens) {
+  std::string text = "\n#line 1 \"a.yc\"\n";
+  for (int i = 0; i < 3000; ++i) text += "v" + std::to_string(i) + " = w[" + std::to_string(i) + "];\n";
+  FileTable files;
+  std::ostringstream err;
+  TokenBuffer b = tokenize_as_read(text, files, err);
+  const Token* p = &b.tokens[0];
+  size_t i = 0;
+  while (p->tok != T_Eof) {
+    p = &b.tokens.next(++i, p);
+    ASSERT_EQ(p, &b.tokens[i]) << i;
+  }
+  ASSERT_GT(i, 3 * TokenStore::block_size);
+  size_t walked = 0;
+  for (auto [run, n] = b.tokens.run_at(0); run; std::tie(run, n) = b.tokens.run_at(walked)) {
+    ASSERT_GT(n, 0u);
+    EXPECT_LE((walked & (TokenStore::block_size - 1)) + n, TokenStore::block_size);
+    for (size_t k = 0; k < n; ++k) ASSERT_EQ(&run[k], &b.tokens[walked + k]) << walked + k;
+    walked += n;
+  }
+  EXPECT_EQ(walked, i + 1);
 }
 
 // A text with a byte the lexer reports is lexed at once: the report comes

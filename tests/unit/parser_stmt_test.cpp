@@ -155,5 +155,21 @@ TEST(GatheredLabelsPerFunction, StopAtTheBodysEnd) {
   EXPECT_NE(trace.find("open_function_body labels=b handlers=\n"), std::string::npos);
 }
 
+// The scan walks the body a token block at a time: a label, its ":" and the
+// token before it fall on every side of the blocks' edges, and a
+// conditional's ":" next to an edge is still no label.
+TEST(GatheredLabelsPerFunction, FoundAcrossTokenBlocks) {
+  std::string body, expected = "open_function_body labels=";
+  for (int k = 0; k < 4100; ++k) {
+    body += "l" + std::to_string(k) + ": ; x = a ? b : c;\n";
+    expected += (k ? ",l" : "l") + std::to_string(k);
+  }
+  expected += " handlers=";
+  std::string trace = parse_source("f() { " + body + " }").trace;
+  std::size_t at = trace.find("open_function_body");
+  ASSERT_NE(at, std::string::npos);
+  EXPECT_EQ(trace.substr(at, trace.find('\n', at) - at), expected);
+}
+
 }  // namespace
 }  // namespace ycc
