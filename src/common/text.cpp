@@ -104,27 +104,11 @@ bool read_file(const std::string& name, std::string& text, int& err) {
     return false;
   }
   text.clear();
-  // The size is a hint only: what is read counts. The text is read straight
-  // into the string, a byte more than the size asked for so that a file
-  // that grew is noticed and read on.
-  size_t want = known && S_ISREG(st.st_mode) && st.st_size > 0 ? static_cast<size_t>(st.st_size) + 1 : 65536;
-  size_t have = 0;
-  for (;;) {
-    size_t n = 0;
-#if defined(__cpp_lib_string_resize_and_overwrite)
-    text.resize_and_overwrite(have + want, [&](char* d, size_t) {
-      n = std::fread(d + have, 1, want, f);
-      return have + n;
-    });
-#else
-    text.resize(have + want);
-    n = std::fread(text.data() + have, 1, want, f);
-    text.resize(have + n);
-#endif
-    have += n;
-    if (n < want) break;
-    want = 65536;
-  }
+  // The size is a hint only: what is read counts.
+  if (known && S_ISREG(st.st_mode) && st.st_size > 0) text.reserve(static_cast<size_t>(st.st_size) + 1);
+  char buf[65536];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, f)) > 0) text.append(buf, n);
   bool failed = std::ferror(f);
   err = failed ? errno : 0;
   std::fclose(f);

@@ -224,12 +224,7 @@ const Spellings& spellings() {
   return s;
 }
 
-constexpr std::array<bool, 256> ident_bytes = [] {
-  std::array<bool, 256> t{};
-  for (int c = 0; c < 256; ++c) t[static_cast<size_t>(c)] = is_ident_char(static_cast<char>(c));
-  return t;
-}();
-inline bool ident_byte(char c) { return ident_bytes[static_cast<unsigned char>(c)]; }
+inline bool ident_byte(char c) { return ident_chars[static_cast<unsigned char>(c)]; }
 
 // What a byte can begin in normal mode: `single` is a punctuator that no
 // longer one begins with, `pair` one that only longer ones of two
@@ -284,24 +279,12 @@ static_assert([] {
 // keywords can be read eight or sixteen bytes at a time.
 constexpr size_t text_padding = 32;
 
-// The first byte at `p` that is no blank; the text's NUL stops the run.
-inline const char* skip_blanks(const char* p) {
-  if constexpr (std::endian::native == std::endian::little) {
-    for (;;) {
-      std::uint64_t w;
-      std::memcpy(&w, p, 8);
-      std::uint64_t x = w ^ 0x2020202020202020u;
-      if (x == 0) {
-        p += 8;
-        continue;
-      }
-      p += std::countr_zero(x) >> 3;
-      if (*p != '\t') return p;
-      ++p;
-    }
-  } else {
-    while (*p == ' ' || *p == '\t') ++p;
-    return p;
+// The first byte at `p` (before `end`) that is no blank.
+inline const char* skip_blanks(const char* p, const char* end) {
+  for (;;) {
+    p = skip_spaces(p, end);
+    if (p == end || *p != '\t') return p;
+    ++p;
   }
 }
 
@@ -594,14 +577,14 @@ void Lexer::normal_run(std::size_t want) {
     if (c == ' ') {
       c = *++p;
       if (c == ' ') {
-        p = skip_blanks(p);
+        p = skip_blanks(p, end);
         c = *p;
       }
       begin = p;
     }
     switch (byte_class(c)) {
       case ByteClass::blank:
-        p = skip_blanks(p + 1);
+        p = skip_blanks(p + 1, end);
         continue;
       case ByteClass::newline:
         if (p[1] != '#') {
@@ -802,15 +785,20 @@ TextFacts text_facts(std::string_view text) {
   return facts;
 }
 
+// Every token of the text the buffer holds, made at once.
+void lex_whole(TokenBuffer& b, FileTable& files, std::ostream& err) {
+  Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
+  lexer.produce(SIZE_MAX);
+  b.tokens.set_source(nullptr);
+}
+
 }  // namespace
 
 TokenBuffer tokenize(std::string text, FileTable& files, std::ostream& err) {
   TokenBuffer b;
   take_text(b, std::move(text));
   b.extern_pragmas = text_facts(b.text_store).extern_pragmas;
-  Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
-  lexer.produce(SIZE_MAX);
-  b.tokens.set_source(nullptr);
+  lex_whole(b, files, err);
   return b;
 }
 
@@ -820,9 +808,7 @@ TokenBuffer tokenize_as_read(std::string text, FileTable& files, std::ostream& e
   TextFacts facts = text_facts(b.text_store);
   b.extern_pragmas = facts.extern_pragmas;
   if (facts.may_report) {
-    Lexer lexer(b.text_store, b.tokens.store(), *b.extern_ranges, files, err);
-    lexer.produce(SIZE_MAX);
-    b.tokens.set_source(nullptr);
+    lex_whole(b, files, err);
     return b;
   }
   b.tokens.set_source(std::make_unique<Lexer>(b.text_store, b.tokens.store(), *b.extern_ranges, files, err));

@@ -4,9 +4,6 @@
 #pragma once
 
 #include <array>
-#include <bit>
-#include <cstdint>
-#include <cstring>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -114,29 +111,6 @@ inline constexpr std::array<PlainByte, 256> plain_bytes = [] {
   return t;
 }();
 
-// Bytes of names and numbers, looked up rather than compared.
-inline constexpr std::array<bool, 256> word_bytes = [] {
-  std::array<bool, 256> t{};
-  for (int i = 0; i < 256; ++i) t[static_cast<size_t>(i)] = is_ident_char(static_cast<char>(i));
-  return t;
-}();
-
-// The first byte from `p` on (before `e`) that is no space.
-inline const char* skip_spaces(const char* p, const char* e) {
-  if constexpr (std::endian::native == std::endian::little) {
-    // Indentation is long: eight bytes at a time while they lie before `e`.
-    while (e - p >= 8) {
-      std::uint64_t w;
-      std::memcpy(&w, p, 8);
-      std::uint64_t x = w ^ 0x2020202020202020u;
-      if (x != 0) return p + (std::countr_zero(x) >> 3);
-      p += 8;
-    }
-  }
-  while (p < e && *p == ' ') ++p;
-  return p;
-}
-
 template <class MayBeMacro>
 std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
   // The NUL after the text is a stop byte: only the stop case looks at the end.
@@ -156,7 +130,7 @@ std::string_view Reader::plain_run(MayBeMacro may_be_macro) {
         p = skip_spaces(q, e);
         continue;
       case PlainByte::ident:
-        while (word_bytes[static_cast<unsigned char>(*q)]) ++q;
+        while (ident_chars[static_cast<unsigned char>(*q)]) ++q;
         if (may_be_macro(std::string_view(p, static_cast<size_t>(q - p)))) goto done;
         break;
       case PlainByte::point:

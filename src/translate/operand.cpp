@@ -149,7 +149,7 @@ void ReferenceSlot::make_whole() const {
   r->written_name_size = r->written.size();
   r->pointer_record = plain_pointer_;
   r->finished = plain_finished_;
-  r->checks_at = plain_finished_ ? plain_checks_at_ : 0;
+  r->checks_at = plain_checks_at_;
   ref_ = std::move(r);
   plain_sym_ = 0;
 }

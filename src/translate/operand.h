@@ -187,6 +187,7 @@ class ReferenceSlot {
     plain_sym_ = sym;
     plain_pointer_ = pointer;
     plain_finished_ = false;
+    plain_checks_at_ = 0;
   }
   // What the end of a reference records; `checks_at` is where its checks
   // (none) begin in the operand's code.

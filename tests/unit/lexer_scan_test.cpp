@@ -7,21 +7,11 @@
 #include <string>
 
 #include "front/lexer.h"
+#include "lexer_test_util.h"
 #include "preprocessor_test_util.h"
 
 namespace ycc {
 namespace {
-
-// "NAME:text@line" for each token before Eof.
-std::string describe(const TokenBuffer& b) {
-  std::string out;
-  for (const Token& t : b.tokens) {
-    if (t.tok == T_Eof) break;
-    if (!out.empty()) out += ' ';
-    out += std::string(token_name(t.tok)) + ":" + std::string(t.text()) + "@" + std::to_string(t.line);
-  }
-  return out;
-}
 
 // Each token after every indentation from 0 to 40 bytes (a tab among the
 // spaces from 9 on), then at the end of the text, before a newline, and
@@ -71,7 +61,7 @@ TEST(LexerScan, TokensAcrossBlocks) {
           FileTable files;
           std::ostringstream err;
           TokenBuffer b = lex(text, files, err);
-          EXPECT_EQ(describe(b), expect) << "text: '" << text << "'";
+          EXPECT_EQ(describe(b, true), expect) << "text: '" << text << "'";
           EXPECT_EQ(err.str(), "");
         }
       }

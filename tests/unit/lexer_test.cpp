@@ -8,20 +8,10 @@
 
 #include "front/lexer.h"
 #include "front/syntax_errors.h"
+#include "lexer_test_util.h"
 
 namespace ycc {
 namespace {
-
-// "NAME:text" for each token before Eof.
-std::string describe(const TokenBuffer& b) {
-  std::string out;
-  for (const Token& t : b.tokens) {
-    if (t.tok == T_Eof) break;
-    if (!out.empty()) out += ' ';
-    out += std::string(token_name(t.tok)) + ":" + std::string(t.text());
-  }
-  return out;
-}
 
 struct LexCase {
   const char* input;
