@@ -407,10 +407,7 @@ void Translator::identifier(const Token& name) {
       // Most references: no dimensions, no members. Any subscript or member
       // that follows makes the reference whole first.
       e.ref.set_plain(symbols_, sub, s.p_or_r == 'p' || s.p_or_r == 'r');
-      if (s.clashes_with_c())
-        e.value = c_name(s.name);
-      else
-        e.value = s.name;
+      e.value = s.clashes_with_c() ? c_name(s.name) : s.name;
       component_facts(e, sub, t);
       return;
     }
